@@ -1,0 +1,32 @@
+// The one loaded stroke font: the text of each character, and when it was loaded.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace morvane::fonts {
+
+inline constexpr int kFontCodes = 256;
+// A character holds segments 0 to 256.
+inline constexpr int kMaxSegments = 257;
+
+// A stroke in the character's cell: X from 0 at the left to 1 at the right, Y from 0 at the top of a
+// capital over 1 at the baseline to 1.5 at the bottom of a descender.
+struct FontSegment {
+  float X1 = 0;
+  float Y1 = 0;
+  float X2 = 0;
+  float Y2 = 0;
+};
+
+struct FontTable {
+  // Entry N is the line of character code N; entry 0 stays empty.
+  std::array<std::string, kFontCodes> FontChars;
+  // As it was given. Comparing it with a wanted name decides whether the font must be read again.
+  std::string FontName;
+  // Rises with every load, so that what was derived from the table knows when it is stale.
+  std::uint64_t version = 0;
+};
+
+}  // namespace morvane::fonts

@@ -1,0 +1,126 @@
+#include "textjob/modTjb.h"
+
+#include "common/FileNames.h"
+#include "common/Lines.h"
+#include "common/Numbers.h"
+#include "common/RunTimeError.h"
+#include "common/Text.h"
+#include "common/Tokenizer.h"
+#include "textjob/TjbFields.h"
+
+namespace morvane::textjob {
+namespace {
+
+using common::FormatPicture;
+using common::ParseNumber;
+using common::PlainNumber;
+using common::RunTimeError;
+
+constexpr std::string_view kCommentPrefix = "COMMENT,";
+constexpr char kDepthSeparator = 'M';
+
+// One conversion for each type of field.
+struct Convert {
+  TextJobLine& line;
+  std::string_view token;
+
+  void operator()(std::int32_t TextJobLine::*member) const { line.*member = common::ParseInt32(token); }
+  void operator()(std::int16_t TextJobLine::*member) const { line.*member = common::ParseInt16(token); }
+  void operator()(float TextJobLine::*member) const { line.*member = common::ParseSingle(token); }
+  void operator()(std::string TextJobLine::*member) const { line.*member = token; }
+};
+
+struct Write {
+  const TextJobLine& line;
+
+  std::string operator()(std::int32_t TextJobLine::*member) const { return PlainNumber(line.*member); }
+  std::string operator()(std::int16_t TextJobLine::*member) const {
+    return PlainNumber(std::int32_t{line.*member});
+  }
+  std::string operator()(float TextJobLine::*member) const { return PlainNumber(line.*member); }
+  std::string operator()(std::string TextJobLine::*member) const { return line.*member; }
+};
+
+bool IsDepth(const TjbField& field) {
+  return field.name == "Depth";
+}
+
+void ReadDepth(std::string_view token, TextJobLine& line) {
+  const std::size_t separator = token.find(kDepthSeparator);
+  line.Depth = common::ParseSingle(token.substr(0, separator));
+  if (separator == std::string_view::npos) return;
+  const std::string_view rest = token.substr(separator + 1);
+  line.Depth2 = common::ParseSingle(rest.substr(0, rest.find(kDepthSeparator)));
+}
+
+std::string WriteDepth(const TextJobLine& line, std::string_view unitsFormat) {
+  std::string depth = FormatPicture(line.Depth, unitsFormat);
+  if (line.Depth2 != 0) depth += kDepthSeparator + FormatPicture(line.Depth2, unitsFormat);
+  return depth;
+}
+
+}  // namespace
+
+TextJobLine ParseTjbLine(std::string_view text) {
+  TextJobLine line;
+  common::TokenScan scan(text);
+  for (const TjbField* field : kTjbTokens) {
+    bool atEnd = false;
+    const std::string_view token = scan.Next(TjbDelimiter(field->place), atEnd);
+    if (!token.empty()) {
+      if (IsDepth(*field)) {
+        ReadDepth(token, line);
+      } else {
+        std::visit(Convert{line, token}, field->member);
+      }
+    }
+    if (atEnd) break;
+  }
+  line.Font = common::ToUpper(line.Font);
+  if (ReadInCapitals(line.Type)) line.Text = common::ToUpper(line.Text);
+  // A full rewrite writes 0 for a field that the type doesn't have.
+  if (line.Compress == 0) line.Compress = 1;
+  if (line.Side == 0) line.Side = 1;
+  if (line.Tool == 0) line.Tool = 1;
+  return line;
+}
+
+TextJobLine ParseTjbLine(const TextJob& job, std::size_t index) {
+  if (index >= job.Lines.size()) throw RunTimeError(common::kSubscriptOutOfRange);
+  return ParseTjbLine(job.Lines[index]);
+}
+
+std::string FormatTjbLine(const TextJobLine& record, std::string_view unitsFormat) {
+  std::string line;
+  for (const TjbField* field : kTjbTokens) {
+    line += IsDepth(*field) ? WriteDepth(record, unitsFormat) : std::visit(Write{record}, field->member);
+    if (field->place + 1 < kTjbTokenCount) line += TjbDelimiter(field->place);
+  }
+  return line;
+}
+
+std::string FontToken(std::string_view font) {
+  return common::ToUpper(common::FileBaseName(font)) + ".fnt";
+}
+
+void ReadTjb(std::string_view bytes, TextJob& job) {
+  common::Lines lines(bytes);
+  std::string_view line;
+  while (lines.Next(line)) {
+    if (common::StartsWith(line, kCommentPrefix)) {
+      job.Comment = line.substr(kCommentPrefix.size());
+    } else if (!line.empty()) {
+      if (job.Lines.size() == kMaxLines) throw RunTimeError(common::kSubscriptOutOfRange);
+      job.Lines.emplace_back(line);
+    }
+  }
+}
+
+std::string WriteTjb(const TextJob& job) {
+  std::string bytes(kCommentPrefix);
+  bytes += job.Comment + "\r\n";
+  for (const std::string& line : job.Lines) bytes += line + "\r\n";
+  return bytes;
+}
+
+}  // namespace morvane::textjob
