@@ -5,20 +5,22 @@
 #include <string_view>
 #include <vector>
 
+#include "common/PathResolver.h"
 #include "platform/FileSystem.h"
 
 namespace morvane::common {
 
 // Program names are text in the core's code page, with backslashes or slashes; names without a path lie
 // in the base directory and so do names that begin with `\`. A native absolute path (`/home/...`) stands
-// for itself. Each part of a path is looked up without regard to case when it is not there as written.
+// for itself; it may also be in UTF-8, so that folders outside the code page can be named. Each part of a
+// path is looked up without regard to case when it is not there as written.
 class Files {
  public:
-  // Native directories. `temporaryDirectory` is the system's, where names with a drive letter lead.
+  // Native absolute directories. `temporaryDirectory` is the system's, where names with a drive letter lead.
   Files(platform::FileSystem& fileSystem, std::string baseDirectory, std::string temporaryDirectory = "/tmp");
 
   platform::FileSystem& System() const { return fileSystem_; }
-  const std::string& BaseDirectory() const { return baseDirectory_; }
+  const std::string& BaseDirectory() const { return paths_.BaseDirectory(); }
 
   // Native path of a name that the program or its user gave.
   std::string Resolve(std::string_view name) const;
@@ -26,6 +28,9 @@ class Files {
   // base directory (`folder`: inside that program folder). Throws "Path/File access error" for a name
   // that leads elsewhere, is empty, holds a drive letter, a NUL or another control character.
   std::string ResolveInside(std::string_view name, std::string_view folder = "") const;
+  // The program name of a native path: relative to the base directory when it lies inside. Resolve
+  // leads from it back to the same file.
+  std::string ProgramName(const std::string& nativePath) const;
 
   // True when the path exists and is not a directory.
   bool FileExists(std::string_view name) const;
@@ -48,20 +53,20 @@ class Files {
   // any failure the target stays as it was and the run-time error is thrown; a read-only target fails
   // with "Permission denied".
   void Save(std::string_view name, std::string_view bytes) const;
-  // Removes what an interrupted Save left in the base directory.
+  // Removes what interrupted saves left in the base directory.
   void ClearLeftovers() const;
 
   // Creates `\Temp\` and deletes every file in it; failures are ignored. For the main program only.
+  // Nothing is deleted when a link makes `\Temp\` lead out of the base directory.
   void ClearTemp() const;
   // Creates `\Temp\` when it is missing; failures are ignored.
   void EnsureTemp() const;
 
  private:
-  std::string FindIgnoringCase(const std::string& directory, std::string_view relative) const;
+  std::string ReadNative(const std::string& path) const;
 
   platform::FileSystem& fileSystem_;
-  std::string baseDirectory_;
-  std::string temporaryDirectory_;
+  PathResolver paths_;
 };
 
 }  // namespace morvane::common

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/CodePage.h"
+
 namespace morvane::common {
 
 // Case by the code page: letters above 127 have their capitals too.
@@ -26,11 +28,5 @@ std::string PadLeft(std::string_view text, std::size_t width, std::string_view p
 std::string PadRight(std::string_view text, std::size_t width, std::string_view pad);
 // Every occurrence, from left to right, without looking at what was put in.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
-
-// Windows-1252 to UTF-8 and back. The five codes without a character map to the control character of
-// the same number, so every byte survives a round trip. Characters outside the code page, and bytes
-// that are no UTF-8, become '?'.
-std::string ToUtf8(std::string_view text);
-std::string FromUtf8(std::string_view utf8);
 
 }  // namespace morvane::common

@@ -17,7 +17,7 @@ struct FileStatus {
   EntryKind kind = EntryKind::Missing;
   std::uint64_t size = 0;                // bytes
   std::int64_t modifiedNanoseconds = 0;  // since 1970-01-01 UTC
-  bool writable = false;                 // by its permission bits, whoever runs the program
+  bool writable = false;                 // by its permission bits, also for an administrator
 };
 
 // A file opened for writing. Each step reports its own failure; after the first failure the file is
@@ -42,13 +42,15 @@ class FileSystem {
   virtual Error Read(const std::string& path, std::string& bytes) const = 0;
   // Names (not paths) of all entries but "." and "..", in no particular order.
   virtual Error List(const std::string& directory, std::vector<std::string>& names) const = 0;
-  // The path with symbolic links followed; the path itself when it does not exist.
+  // The path with symbolic links followed, absolute; parts that do not exist yet are kept as they are.
   virtual std::string RealPath(const std::string& path) const = 0;
 
-  // Creates or truncates; null with `error` set on failure. `permissionsLike` may name a file whose
-  // permission bits the new one takes.
-  virtual std::unique_ptr<OutputFile> Create(const std::string& path, const std::string& permissionsLike,
-                                             Error& error) = 0;
+  // Creates or truncates; null with `error` set on failure.
+  virtual std::unique_ptr<OutputFile> Create(const std::string& path, Error& error) = 0;
+  // Fails with AlreadyExists when the path exists in any form. The new file takes the permission bits
+  // of `permissionsLike` when that exists.
+  virtual std::unique_ptr<OutputFile> CreateNew(const std::string& path, const std::string& permissionsLike,
+                                                Error& error) = 0;
   virtual Error MakeDirectory(const std::string& path) = 0;
   virtual Error Remove(const std::string& path) = 0;
   // Replaces an existing target in one step.

@@ -1,0 +1,68 @@
+// A file system in memory, case-sensitive, whose every failure can be ordered.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "platform/FileSystem.h"
+
+namespace morvane::test {
+
+class FakeFileSystem : public platform::FileSystem {
+ public:
+  // What goes wrong, until it is reset.
+  struct Faults {
+    std::optional<std::size_t> bytesLeft;  // a Write beyond takes what fits and reports a full disk
+    platform::Error read = platform::Error::None;
+    platform::Error create = platform::Error::None;
+    platform::Error sync = platform::Error::None;
+    platform::Error close = platform::Error::None;
+    platform::Error rename = platform::Error::None;
+    platform::Error syncDirectory = platform::Error::None;
+  };
+  Faults faults;
+  mutable int statusCalls = 0;
+
+  // The directories that exist at first, with all above them.
+  explicit FakeFileSystem(const std::string& directory = "/base");
+
+  // Makes or replaces a file, with the folders above it.
+  void Put(const std::string& path, std::string bytes);
+  // Bytes of a file; fails the test when it is missing.
+  std::string Get(const std::string& path) const;
+  bool Has(const std::string& path) const { return files_.count(path) != 0; }
+  void SetWritable(const std::string& path, bool writable) { files_.at(path).writable = writable; }
+
+  platform::FileStatus Status(const std::string& path) const override;
+  platform::Error Read(const std::string& path, std::string& bytes) const override;
+  platform::Error List(const std::string& directory, std::vector<std::string>& names) const override;
+  std::string RealPath(const std::string& path) const override;
+  std::unique_ptr<platform::OutputFile> Create(const std::string& path, platform::Error& error) override;
+  std::unique_ptr<platform::OutputFile> CreateNew(const std::string& path, const std::string& permissionsLike,
+                                                  platform::Error& error) override;
+  platform::Error MakeDirectory(const std::string& path) override;
+  platform::Error Remove(const std::string& path) override;
+  platform::Error Rename(const std::string& from, const std::string& to) override;
+  platform::Error SyncDirectory(const std::string& path) override;
+
+ private:
+  friend class FakeOutputFile;
+  struct File {
+    std::string bytes;
+    std::int64_t modified = 0;
+    bool writable = true;
+  };
+  // A path to an entry that does not exist: which of the two not-found errors it is.
+  platform::Error Missing(const std::string& path) const;
+  void MakeDirectories(const std::string& path);
+  // Each change is one second later than the last.
+  std::int64_t NextTime() { return time_ += 1'000'000'000; }
+
+  std::map<std::string, File> files_;
+  std::set<std::string> directories_{"/"};
+  std::int64_t time_ = 0;
+};
+
+}  // namespace morvane::test
