@@ -17,12 +17,10 @@ double Radians(double degrees) {
   return degrees * kDegreesToRadians;
 }
 
-void CheckRange(const ArcPath& path) {
-  const float farX = std::fabs(path.center.x) + path.radius;
-  const float farY = std::fabs(path.center.y) + path.radius;
-  if (!std::isfinite(farX) || !std::isfinite(farY) || !std::isfinite(path.startAngle)) {
-    throw common::RunTimeError(common::kOverflow);
-  }
+void CheckRange(Point center, float radius) {
+  const float farX = std::fabs(center.x) + radius;
+  const float farY = std::fabs(center.y) + radius;
+  if (!std::isfinite(farX) || !std::isfinite(farY)) throw common::RunTimeError(common::kOverflow);
 }
 
 void MakeFullCircle(ArcPath& path) {
@@ -116,11 +114,13 @@ ArcPath ArcTo(Point start, Point target, Point center, bool clockwise) {
   path.center = center;
   path.target = target;
   path.clockwise = clockwise;
-  path.startAngle = GetAngleAndRadius(center.x, center.y, start.x, start.y).angle;
+  const AngleRadius begin = GetAngleAndRadius(center.x, center.y, start.x, start.y);
   const AngleRadius end = GetAngleAndRadius(center.x, center.y, target.x, target.y);
+  CheckRange(center, begin.radius);
+  CheckRange(center, end.radius);
+  path.startAngle = begin.angle;
   path.endAngle = end.angle;
   path.radius = end.radius;
-  CheckRange(path);
   if (clockwise) {
     if (path.startAngle < path.endAngle) path.endAngle -= kFullTurn;
   } else {

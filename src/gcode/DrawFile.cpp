@@ -1,0 +1,37 @@
+#include "gcode/DrawFile.h"
+
+#include "common/RunTimeError.h"
+
+namespace morvane::gcode {
+namespace {
+
+void Rescale(const GcodeProgram& program, const PassOptions& options, Surface& surface) {
+  const PassState measured = GetExtents(program, options);
+  if (measured.Failed) return;
+  try {
+    surface.view = SetScale(measured.Extents, surface.width, surface.height);
+  } catch (const common::RunTimeError&) {
+    // A job that no scale can show keeps the one that stands, without a message.
+  }
+}
+
+}  // namespace
+
+PassState DrawFile(const GcodeProgram& program, const PassOptions& options, platform::Canvas& canvas) {
+  canvas.Clear();
+  return Pass(options, &canvas).Run(program);
+}
+
+PassState GetExtents(const GcodeProgram& program, const PassOptions& options) {
+  return Pass(options, nullptr).Run(program);
+}
+
+PassState ShowFile(const GcodeProgram& program, const PassOptions& options, Surface& surface,
+                   platform::Canvas& canvas) {
+  if (!OptionsOf(options.viewer).fixedSurface) Rescale(program, options, surface);
+  canvas.Clear();
+  canvas.SetScale(surface.view);
+  return Pass(options, &canvas).Run(program);
+}
+
+}  // namespace morvane::gcode

@@ -1,0 +1,36 @@
+// A job in memory: its statements in their small form, so that drawings and measurements repeat without
+// reading the text again.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "gcode/Statement.h"
+
+namespace morvane::gcode {
+
+// Kept in blocks: a large job grows without moving what is there.
+class GcodeProgram {
+ public:
+  void Add(const Statement& statement);
+  std::size_t Size() const { return size_; }
+
+  // Calls `visit(const Statement&)` in the order of the text.
+  template <typename Visit>
+  void ForEach(Visit&& visit) const {
+    for (const std::vector<Statement>& block : blocks_) {
+      for (const Statement& statement : block) visit(statement);
+    }
+  }
+
+ private:
+  std::vector<std::vector<Statement>> blocks_;
+  std::size_t size_ = 0;
+};
+
+// Reads the text of a job. Unknown lines are left out, but for one behind a tool change: measuring needs
+// to know of it. The editor reads with `foldToCapitals`.
+GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals = false);
+
+}  // namespace morvane::gcode

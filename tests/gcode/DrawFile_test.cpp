@@ -1,0 +1,251 @@
+#include "gcode/DrawFile.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "common/Numbers.h"
+#include "platform/RecordingCanvas.h"
+
+namespace morvane::gcode {
+namespace {
+
+using platform::RecordingCanvas;
+
+// A drawing as text: "c255 w2 0,0>1,1; o1,1 c65280 w2;" for a line and a round mark.
+class DrawingText : public RecordingCanvas {
+ public:
+  std::string text;
+  void Clear() override { text.clear(); }
+  void SetScale(const platform::CanvasView&) override {}
+  void Lines(const platform::Pen& pen, const platform::Segment* segments, std::size_t count) override {
+    for (std::size_t i = 0; i < count; ++i) {
+      const platform::Segment& s = segments[i];
+      text += PenText(pen) + At(s.x1, s.y1) + '>' + At(s.x2, s.y2) + "; ";
+    }
+  }
+  void Circle(float x, float y, float, const platform::Pen& pen) override {
+    text += 'o' + At(x, y) + ' ' + PenText(pen) + "; ";
+  }
+
+ private:
+  static std::string At(float x, float y) { return common::PlainNumber(x) + ',' + common::PlainNumber(y); }
+  static std::string PenText(const platform::Pen& pen) {
+    return 'c' + std::to_string(pen.color) + " w" + std::to_string(pen.width) + ' ';
+  }
+};
+
+GcodeProgram Read(const PassOptions& options, const std::string& text) {
+  return ReadProgram(text, OptionsOf(options.viewer).foldToCapitals);
+}
+
+std::string Draw(const PassOptions& options, const std::string& text, PassState* state = nullptr) {
+  DrawingText canvas;
+  const PassState end = DrawFile(Read(options, text), options, canvas);
+  if (state) *state = end;
+  return canvas.text;
+}
+
+PassOptions Options(Viewer viewer) {
+  PassOptions options;
+  options.viewer = viewer;
+  options.settings = {
+      .feed = 10, .current = 11, .rapid = 12, .background = 14, .lineWidth = 3, .referenceLength = 0.5F};
+  return options;
+}
+
+TEST(DrawFile, ViewersKnowTheirOwnWords) {
+  const struct {
+    const char* text;
+    const char* graphic;
+    const char* preview;
+    const char* editor;
+    const char* small;
+  } cases[] = {
+      {"G01X1Y2", "c255 w3 0,0>1,2; ", "c10 w1 0,0>1,2; ", "c10 w3 0,0>1,2; ", "c0 w1 0,0>1,2; "},
+      {"G00X1Y2", "c12 w1 0,0>1,2; ", "c12 w1 0,0>1,2; ", "c12 w1 0,0>1,2; ", "c255 w1 0,0>1,2; "},
+      {"G01X1Y1\nG01X2", "c255 w3 0,0>1,1; c255 w3 1,1>2,1; ", "c10 w1 0,0>1,1; c10 w1 1,1>2,1; ",
+       "c10 w3 0,0>1,1; c10 w3 1,1>2,1; ", "c0 w1 0,0>1,1; "},
+      {"G00X1Y1\nG01Y2", "c12 w1 0,0>1,1; c255 w3 1,1>1,2; ", "c12 w1 0,0>1,1; c10 w1 1,1>1,2; ",
+       "c12 w1 0,0>1,1; c10 w3 1,1>1,2; ", "c255 w1 0,0>1,1; "},
+      {"g01x1y1", "", "", "c10 w3 0,0>1,1; ", ""},
+      {"W5", "o0,0 c12 w3 ; ", "", "o0,0 c12 w3 ; ", ""},
+      {"G04", "", "", "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ", ""},
+      {"I1", "", "", "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ", ""},
+      {"M06T3\nG01X1Y1", "c65280 w3 0,0>1,1; ", "c10 w1 0,0>1,1; ", "c10 w3 0,0>1,1; ", "c0 w1 0,0>1,1; "},
+      // A broken arc ends the pass where the word is known.
+      {"G01X1Y0\nG02X1Y1\nG01X2Y0", "c255 w3 0,0>1,0; ", "c10 w1 0,0>1,0; ", "c10 w3 0,0>1,0; ",
+       "c0 w1 0,0>1,0; c0 w1 1,0>2,0; "},
+      {"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(Draw(Options(Viewer::Graphic), c.text), c.graphic) << c.text;
+    EXPECT_EQ(Draw(Options(Viewer::Preview), c.text), c.preview) << c.text;
+    EXPECT_EQ(Draw(Options(Viewer::Editor), c.text), c.editor) << c.text;
+    EXPECT_EQ(Draw(Options(Viewer::Small), c.text), c.small) << c.text;
+  }
+}
+
+TEST(DrawFile, ToolsAloneAndTogether) {
+  const std::string job = "G01X1Y0\nM06T2\nG00X2Y0\nG01X3Y0\nG02X5Y0I4J0\nM06T17\nG00X6Y0\nG01X7Y0\nG01X8Y0";
+  PassOptions options = Options(Viewer::Graphic);
+  options.allTools = false;
+  PassState state;
+  // An arc of a hidden tool is one straight line, a tool that does not exist is just not shown.
+  EXPECT_EQ(Draw(options, job, &state),
+            "c255 w3 0,0>1,0; c14 w1 1,0>2,0; c14 w3 2,0>3,0; c14 w3 3,0>5,0; c14 w1 5,0>6,0; "
+            "c14 w3 6,0>7,0; c14 w3 7,0>8,0; ");
+  EXPECT_EQ(state.Extents, (Extents{8, 0, 1, 0}));
+  EXPECT_FALSE(state.Failed);
+  // A turn of a hidden tool ends at its end as well.
+  EXPECT_EQ(Draw(options, "M06T2\nG05T.5I1J0P0\nG05T1.5I1J0P0\nM06T1\nG01X9Y9").substr(0, 14),
+            "c14 w3 0,0>2,0");
+  options.shownTool = 17;
+  EXPECT_EQ(Draw(options, "M06T17\nG01X1Y0"), "c14 w3 0,0>1,0; ");
+  options.allTools = true;
+  Draw(options, job, &state);
+  EXPECT_TRUE(state.Failed);
+  EXPECT_EQ(state.X, 6);
+  EXPECT_NEAR(state.Extents.MinY, -1, 1e-6);
+  EXPECT_EQ(Draw(options, "M06T0\nG00X1Y1\nG01X2Y2"), "c12 w1 0,0>1,1; ");
+}
+
+TEST(DrawFile, HiddenRapidsStillMoveAndMeasure) {
+  PassOptions options = Options(Viewer::Preview);
+  options.showRapids = false;
+  PassState state;
+  EXPECT_EQ(Draw(options, "G00X4Y-2\nG00X1Y5Z7\n", &state), "");
+  EXPECT_EQ(state.Extents, (Extents{4, 5, 1, -2}));
+  EXPECT_EQ(state.Z, 7);
+  EXPECT_EQ(Draw(options, "G00X4Y2\nG01X5Y2"), "c10 w1 4,2>5,2; ");
+  EXPECT_EQ(GetExtents(Read(options, "G00X-4Y-2"), options).Extents, (Extents{0, 0, -4, -2}));
+}
+
+TEST(DrawFile, ArcsReachToTheirBulge) {
+  const PassOptions options = Options(Viewer::Preview);
+  const struct {
+    const char* text;
+    Extents expected;
+  } cases[] = {
+      {"G00X1Y2\nG02X3Y2I2J2", {3, 2, 1, 1}},    {"G00X1Y2\nG03X3Y2I2J2", {3, 3, 1, 2}},
+      {"G00X1Y2\nG02X1Y2I2J2", {3, 3, 1, 1}},    {"G00X2Y1\nG05T.5I2J2P1", {3, 3, 2, 1}},
+      {"G00X2Y1\nG05T-3.5I2J2P1", {3, 3, 1, 1}},
+  };
+  for (const auto& c : cases) {
+    const Extents got = GetExtents(Read(options, c.text), options).Extents;
+    EXPECT_NEAR(got.MaxX, c.expected.MaxX, 1e-6) << c.text;
+    EXPECT_NEAR(got.MaxY, c.expected.MaxY, 1e-6) << c.text;
+    EXPECT_NEAR(got.MinX, c.expected.MinX, 1e-6) << c.text;
+    EXPECT_NEAR(got.MinY, c.expected.MinY, 1e-6) << c.text;
+  }
+  RecordingCanvas canvas;
+  PassState state = DrawFile(Read(options, "G05T2I1J1P0"), options, canvas);
+  EXPECT_EQ(canvas.Segments().size(), 362U);
+  state = DrawFile(Read(options, "G05T.5I1J1P0"), options, canvas);
+  EXPECT_EQ(canvas.Segments().size(), 182U);
+  EXPECT_NEAR(state.X, 2, 1e-6);
+  EXPECT_NEAR(state.Y, 2, 1e-6);
+  EXPECT_LT(canvas.Segments()[90].y2, 0.1F);  // over the North
+}
+
+TEST(DrawFile, EditorKeepsTheStateOfTheMachine) {
+  PassOptions options = Options(Viewer::Editor);
+  PassState state;
+  Draw(options, "S1\nS82\nC1\nS9\nVP50\nVF1.5\nVM2.5\nEND\nG01X3Y4Z5", &state);
+  EXPECT_FALSE(state.Outputs[0]);
+  EXPECT_TRUE(state.Outputs[7]);
+  EXPECT_EQ(state.VelocityPercent, 50);
+  EXPECT_EQ(state.FeedSpeed, 1.5F);
+  EXPECT_EQ(state.MoveSpeed, 2.5F);
+  EXPECT_TRUE(state.Ended);
+  EXPECT_EQ(state.Z, 5);
+
+  options.currentLine = 2;
+  EXPECT_EQ(Draw(options, "G00X1Y0\nG01X2Y0\nW1"),
+            "c12 w1 0,0>1,0; c11 w3 1,0>2,0; c11 w1 0.5,0>1.5,0; c11 w1 1,-0.5>1,0.5; "
+            "c11 w1 1.5,0>2.5,0; c11 w1 2,-0.5>2,0.5; o2,0 c12 w3 ; ");
+  EXPECT_EQ(Draw(options, "\nW1"), "o0,0 c11 w3 ; ");
+  options.currentLine = 0;
+  options.velocityWidth = 5.0F;
+  EXPECT_EQ(Draw(options, "VP50\nG01X1Y0\nVP-9\nG01X2Y0\nVP0\nG01X3Y0", &state),
+            "c10 w10 0,0>1,0; c10 w1 1,0>2,0; ");
+  EXPECT_TRUE(state.Failed);
+}
+
+TEST(DrawFile, TheMoveNearestAClick) {
+  PassOptions options = Options(Viewer::Editor);
+  PassState state;
+  options.click = Point{2, 1};
+  Draw(options, "G90\nG00X1Y1\nG01X1.5Y1\nG01X1.4Y1\nG02X2Y3I2J2", &state);
+  EXPECT_EQ(state.NearestLine, 3U);  // a tie with the line behind it
+  EXPECT_EQ(state.NearestDistance, 0.5F);
+  Draw(options, "W1\n", &state);
+  EXPECT_EQ(state.NearestLine, 0U);
+}
+
+TEST(DrawFile, RelativeMovesAddUp) {
+  const PassOptions options = Options(Viewer::Preview);
+  DrawingText canvas;
+  Pass pass(options, &canvas);
+  pass.MoveRelative(1, 2, true);
+  pass.MoveRelative(1, -1, true);
+  pass.Flush();
+  EXPECT_EQ(canvas.text, "c10 w1 0,0>1,2; c10 w1 1,2>2,1; ");
+}
+
+TEST(ShowFile, MeasuresThenScalesThenDraws) {
+  const PassOptions options = Options(Viewer::Graphic);
+  Surface surface;
+  surface.width = surface.height = 100;
+  RecordingCanvas canvas;
+  ShowFile(Read(options, "G01X2Y1\nG01X3Y2"), options, surface, canvas);
+  ASSERT_EQ(canvas.Runs().size(), 2U);
+  EXPECT_EQ(canvas.Runs()[0].kind, RecordingCanvas::Kind::Scale);
+  EXPECT_EQ(canvas.Segments().size(), 2U);
+  EXPECT_FLOAT_EQ(canvas.View()->Left, 1.95F);
+  EXPECT_FLOAT_EQ(canvas.View()->Top, 0.95F);
+  EXPECT_FLOAT_EQ(canvas.View()->Width, 1.3F);
+  // A failure leaves the scale, and what was drawn up to it.
+  for (const char* text : {"G01X9Y9\nG02X1", "G01X9Y9\nM06T99\nG01X1Y1", "G01X9Y9\nG05T1E38I0J0P0",
+                           "G01X9Y9\nG02X1Y1I3.4E38J-3.4E38"}) {
+    ShowFile(Read(options, text), options, surface, canvas);
+    EXPECT_FLOAT_EQ(canvas.View()->Left, 1.95F) << text;
+    EXPECT_EQ(canvas.Segments().size(), 1U) << text;
+  }
+  ShowFile(Read(options, "G00X3.4E38Y0\nG01X-3.4E38Y0"), options, surface, canvas);
+  EXPECT_FLOAT_EQ(canvas.View()->Left, 1.95F);
+  // The small viewer's surface is set by hand.
+  surface.view = Shifted(Zoomed(kFirstScale, 0.5F), -2);
+  ShowFile(Read(options, "G01X2Y1"), Options(Viewer::Small), surface, canvas);
+  EXPECT_EQ(canvas.View()->Left, -6);
+  EXPECT_EQ(canvas.View()->Width, 3);
+}
+
+TEST(SetScale, OneUnitIsAsLongInXAsInY) {
+  const struct {
+    Extents extents;
+    float width, height;
+    platform::CanvasView expected;
+  } cases[] = {
+      {{}, 500, 500, {-0.05F, -0.05F, 1.3F, 1.3F}},
+      {{4, 1, 0, 0}, 1200, 800, {-0.05F, -0.05F, 4.3F, 2.8666667F}},
+      {{1, 4, 0, 0}, 1200, 800, {-0.05F, -0.05F, 6.45F, 4.3F}},
+      {{0, 0, -4, -2}, 100, 100, {-4.05F, -2.05F, 5.3F, 5.3F}},
+      {{8, 6, 5, 3}, 200, 100, {4.95F, 2.95F, 6.6F, 3.3F}},
+  };
+  for (const auto& c : cases) {
+    const platform::CanvasView got = SetScale(c.extents, c.width, c.height);
+    EXPECT_FLOAT_EQ(got.Left, c.expected.Left);
+    EXPECT_FLOAT_EQ(got.Top, c.expected.Top);
+    EXPECT_FLOAT_EQ(got.Width, c.expected.Width);
+    EXPECT_FLOAT_EQ(got.Height, c.expected.Height);
+  }
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  EXPECT_ANY_THROW(SetScale({1e9F, 1e9F, 1e9F, 1e9F}, 100, 100));
+  EXPECT_ANY_THROW(SetScale({kLargest, 0, -kLargest, 0}, 100, 100));
+  EXPECT_ANY_THROW(SetScale({1, 1, 0, 0}, 0, 100));
+}
+
+}  // namespace
+}  // namespace morvane::gcode
