@@ -37,15 +37,15 @@ ModuleRows CachedRows(const common::Files& files, const std::string& cache, std:
   return ParseModuleRows(files.Read(cache));
 }
 
-// Makes the symbol and caches it.
-ModuleRows NewRows(const common::ProcessRunner& runner, const std::string& name, const std::string& density,
+// Makes the symbol of the file at `path` and caches it.
+ModuleRows NewRows(const common::ProcessRunner& runner, const std::string& path, const std::string& density,
                    const std::string& text, const std::string& cache) {
   const common::Files& files = runner.files;
-  const std::int64_t changed = files.ModifiedTime(name);
+  const std::int64_t changed = files.ModifiedTime(path);
   const std::string output = RunTool(runner, density, text);
   ModuleRows rows = ParseModuleRows(output);
   // A file that was saved while the tool ran needs another symbol in the next pass.
-  if (rows.empty() || files.ModifiedTime(name) != changed) return rows;
+  if (rows.empty() || files.ModifiedTime(path) != changed) return rows;
   files.EnsureTemp();
   files.Save(cache, output);  // checked, so that half a symbol never stands in the cache
   return rows;
@@ -57,13 +57,14 @@ Symbol BuildSymbolCache(const common::ProcessRunner& runner, const std::string& 
                         FailedSymbols& failed) {
   Symbol symbol;
   try {
+    const std::string path = runner.files.ResolveInside(name);
     symbol.file = ReadDataMatrix(runner.files, name, MissingMarker::Empties);
     if (symbol.file.Content.size() > kMaxContent) return symbol;
     const std::string text = expand(symbol.file.Content);
     const std::string cache = common::ScratchName(name, ".out");
-    symbol.rows = CachedRows(runner.files, cache, runner.files.ModifiedTime(name));
+    symbol.rows = CachedRows(runner.files, cache, runner.files.ModifiedTime(path));
     if (!symbol.rows.empty() || !failed.insert(name).second) return symbol;
-    symbol.rows = NewRows(runner, name, symbol.file.Density, text, cache);
+    symbol.rows = NewRows(runner, path, symbol.file.Density, text, cache);
     if (!symbol.rows.empty()) failed.erase(name);
   } catch (const common::RunTimeError&) {
     // No rows: the placeholder is drawn.

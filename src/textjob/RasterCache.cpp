@@ -24,8 +24,7 @@ RasterStatus Refresh(const common::ProcessRunner& runner, const std::string& nam
                      const std::string& bitmap) {
   const common::Files& files = runner.files;
   try {
-    files.ResolveInside(name);
-    const std::int64_t changed = files.ModifiedTime(name);
+    const std::int64_t changed = files.ModifiedTime(files.ResolveInside(name));
     if (files.FileExists(bitmap) && changed <= files.ModifiedTime(bitmap)) return RasterStatus::Ready;
     return Bake(runner, name, bitmap);
   } catch (const common::RunTimeError&) {
