@@ -23,9 +23,10 @@ struct ProcessRunner {
   const bool& abort;             // set when the program closes: ends every wait
 
   // Looks for `program` in the base directory, then beside the main program, and starts it with the
-  // base directory as its folder. With `wait`, polls until it ends and returns its exit code; without,
-  // returns 0. kCannotStart when it could not be started; kStillActive when `abort` ended the wait (the
-  // side program is ended then, since nobody could do so later).
+  // base directory as its folder. Arguments are text in the core's code page (name files relative to
+  // that folder) and reach the program in UTF-8. With `wait`, polls until it ends and returns its exit code;
+  // without, returns 0. kCannotStart when it could not be started; kStillActive when `abort` ended the wait
+  // (the side program is ended then, since nobody could do so later).
   int RunAndWait(std::string_view program, const std::vector<std::string>& arguments, bool wait = true) const;
 };
 

@@ -20,6 +20,7 @@ class FakeClock : public platform::Clock {
   platform::DateTime Now() const override { return now; }
   double MonotonicSeconds() const override { return seconds; }
   void Sleep(int milliseconds) override {
+    if (milliseconds < 0) milliseconds = 0;
     seconds += milliseconds / 1000.0;
     totalSlept += milliseconds;
     if (onWait) onWait(milliseconds);

@@ -14,7 +14,9 @@ class FakeProcess : public platform::Process {
     if (script_.pollsUntilEnd > 0) --script_.pollsUntilEnd;
     return std::nullopt;
   }
-  void Terminate() override { run_.terminated = true; }
+  void Terminate() override {
+    if (script_.pollsUntilEnd != 0) run_.terminated = true;
+  }
 
  private:
   FakeProcesses::Script script_;

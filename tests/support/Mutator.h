@@ -45,7 +45,7 @@ using Reader = std::function<void(const std::string& bytes)>;
 inline constexpr int kMutations = 20000;
 
 // Gives the reader the empty text, every seed, every truncation of the seeds (up to 4 KB each) and `count`
-// mutations. Fails the test when one input takes longer than two seconds, when an exception other than a
+// mutations. Fails the test when one input takes longer than five seconds, when an exception other than a
 // run-time error leaves the reader, or when memory grows beyond 512 MB.
 void RunMutations(const std::vector<std::string>& seeds, const Reader& reader, int count = kMutations);
 
