@@ -33,6 +33,7 @@ class FakeFileSystem : public platform::FileSystem {
   // Bytes of a file; fails the test when it is missing.
   std::string Get(const std::string& path) const;
   bool Has(const std::string& path) const { return files_.count(path) != 0; }
+  void SetModified(const std::string& path, std::int64_t time) { files_.at(path).modified = time; }
   void SetWritable(const std::string& path, bool writable) { files_.at(path).writable = writable; }
 
   platform::FileStatus Status(const std::string& path) const override;

@@ -1,0 +1,112 @@
+#include "textjob/RasterCache.h"
+
+#include <gtest/gtest.h>
+
+#include "support/SideProgramStation.h"
+#include "textjob/BitmapSize.h"
+
+namespace morvane::textjob {
+namespace {
+
+using namespace std::string_literals;
+
+// Both headers of a picture of 3 by 2 pixels, as far as they are looked at.
+const std::string kBitmap = "BM............\x28\0\0\0\3\0\0\0\2\0\0\0"s;
+
+class RasterCache : public ::testing::Test {
+ protected:
+  RasterCache() { station_.fileSystem.Put("/base/logo.ras", "raster"); }
+
+  RasterBitmap Draw(const std::string& name = "LOGO.RAS") {
+    FailedRasters failed;
+    return BuildRasterBitmap(station_.runner, name, failed);
+  }
+  std::size_t Runs() const { return station_.processes.runs.size(); }
+
+  test::SideProgramStation station_{"PIXBAKE.EXE"};
+};
+
+TEST_F(RasterCache, BakesOnlyForANewerRaster) {
+  station_.Expect("Temp/LOGO.BMP", kBitmap);
+  const RasterBitmap drawn = Draw();
+  EXPECT_EQ(drawn.status, RasterStatus::Ready);
+  EXPECT_EQ(drawn.bitmap, "\\Temp\\LOGO.BMP");
+  ASSERT_EQ(Runs(), 1U);
+  EXPECT_EQ(station_.processes.runs[0].program, "/base/PIXBAKE.EXE");
+  EXPECT_EQ(station_.processes.runs[0].arguments,
+            (std::vector<std::string>{"/R", ".\\LOGO.RAS", ".\\Temp\\LOGO.BMP"}));
+  EXPECT_EQ(station_.processes.runs[0].workingDirectory, "/base");
+
+  station_.fileSystem.SetModified("/base/logo.ras", 5);
+  station_.fileSystem.SetModified("/base/Temp/LOGO.BMP", 5);
+  EXPECT_EQ(Draw().status, RasterStatus::Ready);
+  EXPECT_EQ(Runs(), 1U);
+  station_.fileSystem.Put("/base/logo.ras", "changed");
+  station_.Expect("Temp/LOGO.BMP", kBitmap);
+  EXPECT_EQ(Draw().status, RasterStatus::Ready);
+  EXPECT_EQ(Runs(), 2U);
+}
+
+TEST_F(RasterCache, AFailedBakeLeavesNoBitmapAndIsTriedAgain) {
+  const struct {
+    RasterStatus status;
+    void (*expect)(test::SideProgramStation&);
+  } cases[] = {
+      {RasterStatus::ToolNotFound, [](test::SideProgramStation& s) { s.ExpectNoStart(); }},
+      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(0); }},
+      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(2); }},
+      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", kBitmap, 1); }},
+      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", "BMgarbage"); }},
+  };
+  std::size_t runs = 0;
+  for (const auto& c : cases) {
+    c.expect(station_);
+    EXPECT_EQ(Draw().status, c.status);
+    EXPECT_FALSE(station_.fileSystem.Has("/base/Temp/LOGO.BMP"));
+    EXPECT_EQ(Runs(), ++runs);
+  }
+}
+
+TEST_F(RasterCache, RastersNeverShareABitmap) {
+  station_.fileSystem.Put("/base/SUB.1/LOGO.RAS", "another raster");
+  station_.Expect("Temp/SUB.1$LOGO.BMP", kBitmap);
+  EXPECT_EQ(Draw("SUB.1\\LOGO.RAS").bitmap, "\\Temp\\SUB.1$LOGO.BMP");
+}
+
+TEST_F(RasterCache, OnePassTriesABadRasterOnce) {
+  FailedRasters failed;
+  station_.ExpectNoStart();
+  for (int line = 0; line < 1000; ++line) {
+    EXPECT_EQ(BuildRasterBitmap(station_.runner, "LOGO.RAS", failed).status, RasterStatus::ToolNotFound);
+  }
+  EXPECT_EQ(Runs(), 1U);
+}
+
+TEST_F(RasterCache, NoToolForARasterThatCannotBeUsed) {
+  station_.fileSystem.Put("/other.ras", "raster");
+  for (const char* name : {"NONE.RAS", "", "..\\other.ras", "/other.ras", "C:other.ras"}) {
+    EXPECT_EQ(Draw(name).status, RasterStatus::Failed) << name;
+  }
+  EXPECT_EQ(Runs(), 0U);
+}
+
+TEST(BitmapSize, ReadsBothHeaderForms) {
+  const struct {
+    std::string bytes;
+    std::int32_t width, height;
+  } cases[] = {
+      {"BM............\x28\0\0\0\3\1\0\0\xFE\xFF\xFF\xFF"s, 259, 2},  // rows from top to bottom
+      {"BM............\x0C\0\0\0\xFF\xFF\2\0\1\0\1\0"s, 65535, 2},    // 16-bit sizes
+      {"BM............\x28\0\0\0\3\0\0\0\0\0\0\x80"s, 0, 0},
+      {"BM............\x28\0\0\0\xFF\xFF\xFF\xFF\2\0\0\0"s, 0, 0},
+      {kBitmap.substr(0, 25), 0, 0},
+  };
+  for (const auto& c : cases) {
+    const PixelSize size = BitmapSize(c.bytes).value_or(PixelSize{});
+    EXPECT_EQ(size.width, c.width) << ::testing::PrintToString(c.bytes);
+    EXPECT_EQ(size.height, c.height) << ::testing::PrintToString(c.bytes);
+  }
+}
+
+}  // namespace
+}  // namespace morvane::textjob
