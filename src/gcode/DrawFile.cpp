@@ -3,19 +3,17 @@
 #include "common/RunTimeError.h"
 
 namespace morvane::gcode {
-namespace {
 
 void Rescale(const GcodeProgram& program, const PassOptions& options, Surface& surface) {
+  if (OptionsOf(options.viewer).fixedSurface) return;
   const PassState measured = GetExtents(program, options);
   if (measured.Failed) return;
   try {
     surface.view = SetScale(measured.Extents, surface.width, surface.height);
   } catch (const common::RunTimeError&) {
-    // A job that no scale can show keeps the one that stands, without a message.
+    // Without a message: what is drawn at the scale that stands is all there is to see.
   }
 }
-
-}  // namespace
 
 PassState DrawFile(const GcodeProgram& program, const PassOptions& options, platform::Canvas& canvas) {
   canvas.Clear();
@@ -28,7 +26,7 @@ PassState GetExtents(const GcodeProgram& program, const PassOptions& options) {
 
 PassState ShowFile(const GcodeProgram& program, const PassOptions& options, Surface& surface,
                    platform::Canvas& canvas) {
-  if (!OptionsOf(options.viewer).fixedSurface) Rescale(program, options, surface);
+  Rescale(program, options, surface);
   canvas.Clear();
   canvas.SetScale(surface.view);
   return Pass(options, &canvas).Run(program);

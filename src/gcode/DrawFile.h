@@ -20,6 +20,10 @@ PassState DrawFile(const GcodeProgram& program, const PassOptions& options, plat
 // The same pass without drawing; its extents hold what was met up to a failure.
 PassState GetExtents(const GcodeProgram& program, const PassOptions& options);
 
+// Sets the surface's scale from the job's extents. The small viewer keeps its own, and a job that cannot
+// be measured or shown at any scale leaves the one that stands.
+void Rescale(const GcodeProgram& program, const PassOptions& options, Surface& surface);
+
 // Measures, sets the scale from the extents (the small viewer keeps its own) and draws: what opening a
 // file and resizing do. The canvas gets Clear, SetScale, and the drawing.
 PassState ShowFile(const GcodeProgram& program, const PassOptions& options, Surface& surface,

@@ -1,0 +1,42 @@
+// Makes and finds the program's windows inside the frame.
+#pragma once
+
+#include <QPointer>
+#include <string>
+
+#include "widgets/Windows.h"
+
+class QDialog;
+
+namespace morvane::context {
+struct AppContext;
+}
+
+namespace morvane::app {
+
+class frmMain;
+class MdiChild;
+
+class AppWindows : public widgets::Windows {
+ public:
+  // The context may still be under construction.
+  explicit AppWindows(const context::AppContext& context) : context_(context) {}
+  void SetFrame(frmMain* frame) { frame_ = frame; }
+
+  QWidget* MainWindow() override;
+  void OpenGraphicViewer(const std::string& file) override;
+  void Refresh() override;
+
+  // Opens a file of a known kind (native path) in its window; tells when the kind is not known.
+  void OpenFile(const std::string& path);
+  void RedrawActiveJob();
+  bool EditorIsActive() const;
+  // Shows a dialog until it is closed.
+  int ShowModal(QDialog& dialog);
+
+ private:
+  const context::AppContext& context_;
+  frmMain* frame_ = nullptr;
+};
+
+}  // namespace morvane::app

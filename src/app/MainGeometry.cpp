@@ -1,0 +1,46 @@
+#include "app/MainGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "common/Numbers.h"
+#include "common/Settings.h"
+
+namespace morvane::app {
+namespace {
+
+int Pixels(float twips) {
+  constexpr float kLimit = 16000;  // a window system takes no more
+  return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kLimit, kLimit)));
+}
+
+float Twips(int pixels) {
+  return static_cast<float>(pixels) * kTwipsPerPixel;
+}
+
+}  // namespace
+
+MainGeometry ReadGeometry(const common::Settings& settings) {
+  const common::SettingsSnapshot snapshot = settings.Read();
+  const auto read = [&](const char* key, float fallback) {
+    return common::StrictSingle(snapshot.Get(common::kSettingsSection, key, common::PlainNumber(fallback)));
+  };
+  MainGeometry geometry;
+  geometry.left = read("MainLeft", geometry.left);
+  geometry.top = read("MainTop", geometry.top);
+  geometry.width = read("MainWidth", geometry.width);
+  geometry.height = read("MainHeight", geometry.height);
+  return geometry;
+}
+
+QRect ToPixels(const MainGeometry& geometry) {
+  return {Pixels(geometry.left), Pixels(geometry.top), Pixels(std::max(geometry.width, kMinimumWidth)),
+          Pixels(std::max(geometry.height, kMinimumHeight))};
+}
+
+MainGeometry ToTwips(const QRect& pixels) {
+  return {Twips(pixels.x()), Twips(pixels.y()), Twips(pixels.width()), Twips(pixels.height())};
+}
+
+}  // namespace morvane::app

@@ -1,0 +1,41 @@
+// What the menu entries do. Each function is the event procedure of the entry of its name.
+#pragma once
+
+namespace morvane::context {
+struct AppContext;
+struct ViewOptions;
+}  // namespace morvane::context
+
+namespace morvane::app {
+
+class AppWindows;
+class frmMain;
+
+class MenuActions {
+ public:
+  MenuActions(const context::AppContext& context, AppWindows& windows, frmMain& frame)
+      : context_(context), windows_(windows), frame_(frame) {}
+
+  void mnuFileExit_Click();
+  void mnuViewToolPath_Click();
+  void mnuViewGridLines_Click();
+  void mnuViewReferenceMarks_Click();
+  void mnuViewBackgroundImage_Click();
+  void mnuViewFixture_Click();
+  void mnuViewRefresh_Click();
+  void mnuHelpAbout_Click();
+
+  // The status bar's second panel: choose a product, when production is enabled.
+  void JobPanel_Click();
+  // The status bar's third panel: the options.
+  void ConnectionPanel_Click();
+
+ private:
+  void Toggle(bool context::ViewOptions::*flag);
+
+  const context::AppContext& context_;
+  AppWindows& windows_;
+  frmMain& frame_;
+};
+
+}  // namespace morvane::app

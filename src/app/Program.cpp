@@ -1,0 +1,73 @@
+#include "app/Program.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "app/StartSettings.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "common/ImportSettings.h"
+#include "common/RunTimeError.h"
+#include "platform/posix/PosixPaths.h"
+#include "platform/qt/QtSystem.h"
+#include "platform/qt/QtText.h"
+
+namespace morvane::app {
+
+Program::Program(const std::string& programDirectory, const std::string& baseDirectory)
+    : programDirectory_(programDirectory),
+      userStore_(fileSystem_, platform::UserConfigDirectory()),
+      operations_(abortTransfers_),
+      clock_(operations_),
+      files_(fileSystem_, baseDirectory),
+      settings_(files_),
+      processRunner_{processes_, clock_, files_, programDirectory, abortTransfers_},
+      pictures_(files_),
+      prompts_(operations_),
+      fileDialogs_(prompts_, files_, dialogFolders_),
+      windows_(context_),
+      waitWindow_(windows_),
+      context_{files_,        settings_,    processRunner_, clock_,          locale_,       systemInfo_,
+               prompts_,      fileDialogs_, waitWindow_,    statusPanels_,   operations_,   pictures_,
+               statusPanels_, viewOptions_, windows_,       abortTransfers_, developerMode_} {}
+
+Program::~Program() = default;
+
+int Program::Run(const CommandLine& line) {
+  const platform::SingleInstance instance(files_.BaseDirectory());
+  if (!instance.First()) return 0;
+  PrepareSettings();
+  developerMode_ = line.developer || userStore_.Get("Settings", "Developer", "0") == "1";
+  Start(line);
+  return QCoreApplication::exec();
+}
+
+// Settings that cannot be written stay as they are; every reader has its default.
+void Program::PrepareSettings() {
+  files_.ClearLeftovers();
+  try {
+    common::ImportSettings(userStore_, settings_);
+    WriteColorDefaults(settings_);
+  } catch (const common::RunTimeError&) {
+  }
+}
+
+void Program::Start(const CommandLine& line) {
+  std::unique_ptr<frmSplash> splash;
+  if (line.splash && !developerMode_) {
+    splash = std::make_unique<frmSplash>();
+    splash->show();
+    clock_.Sleep(kSplashTime);
+  }
+  const QString jobFile = line.jobFile.isEmpty() ? QString() : QDir::current().absoluteFilePath(line.jobFile);
+  QDir::setCurrent(platform::PathToQt(files_.BaseDirectory()));
+  frame_ = std::make_unique<frmMain>(context_, windows_);
+  windows_.SetFrame(frame_.get());
+  QObject::connect(frame_.get(), &frmMain::Unloaded, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  frame_->MDIForm_Load();
+  splash.reset();
+  frame_->show();
+  if (!jobFile.isEmpty()) windows_.OpenFile(platform::PathFromQt(jobFile));
+}
+
+}  // namespace morvane::app

@@ -1,0 +1,69 @@
+// The running program: makes what the process has one of, and goes through start and end.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/AppWindows.h"
+#include "app/CommandLine.h"
+#include "common/FileDialogs.h"
+#include "common/Files.h"
+#include "common/RunAndWait.h"
+#include "common/Settings.h"
+#include "context/AppContext.h"
+#include "context/StatusPanels.h"
+#include "context/ViewOptions.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixPerUserStore.h"
+#include "platform/posix/PosixProcesses.h"
+#include "platform/posix/PosixSystemInfo.h"
+#include "platform/qt/Operations.h"
+#include "platform/qt/PictureStore.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtLocale.h"
+#include "widgets/QtPrompts.h"
+#include "widgets/QtWaitWindow.h"
+
+namespace morvane::app {
+
+class frmMain;
+
+class Program {
+ public:
+  // Native directories: of the program's own files, and where its user's files lie.
+  Program(const std::string& programDirectory, const std::string& baseDirectory);
+  ~Program();
+
+  // From start to end; the process's exit status.
+  int Run(const CommandLine& line);
+
+ private:
+  void Start(const CommandLine& line);
+  void PrepareSettings();
+
+  bool abortTransfers_ = false;
+  bool developerMode_ = false;
+  std::string programDirectory_;
+  platform::PosixFileSystem fileSystem_;
+  platform::PosixProcesses processes_;
+  platform::PosixSystemInfo systemInfo_;
+  platform::PosixPerUserStore userStore_;
+  platform::Operations operations_;
+  platform::QtClock clock_;
+  platform::QtLocale locale_;
+  common::Files files_;
+  common::Settings settings_;
+  common::ProcessRunner processRunner_;
+  platform::PictureStore pictures_;
+  widgets::QtPrompts prompts_;
+  common::DialogFolders dialogFolders_;
+  common::FileDialogs fileDialogs_;
+  context::StatusPanels statusPanels_;
+  context::ViewOptions viewOptions_;
+  AppWindows windows_;
+  widgets::QtWaitWindow waitWindow_;
+  context::AppContext context_;
+  std::unique_ptr<frmMain> frame_;
+};
+
+}  // namespace morvane::app

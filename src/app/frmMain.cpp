@@ -1,0 +1,105 @@
+#include "app/frmMain.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "app/AppWindows.h"
+#include "app/MainStatusBar.h"
+#include "app/MdiChild.h"
+#include "app/MenuActions.h"
+#include "app/MenuBuilder.h"
+#include "app/MenuTable.h"
+#include "app/Version.h"
+#include "app/ViewMarks.h"
+#include "common/Files.h"
+#include "common/Settings.h"
+#include "context/AppContext.h"
+#include "context/StatusPanels.h"
+#include "platform/qt/Operations.h"
+#include "platform/qt/QtText.h"
+
+namespace morvane::app {
+
+frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
+    : context_(context),
+      windows_(windows),
+      actions_(std::make_unique<MenuActions>(context, windows, *this)),
+      area_(new QMdiArea(this)) {
+  setObjectName("frmMain");
+  area_->setObjectName("mdiArea");
+  area_->setBackground(palette().brush(QPalette::Dark));
+  setCentralWidget(area_);
+  BuildMenus(*menuBar(), *actions_);
+  BuildRecentFiles();
+  auto* bar = new MainStatusBar(context.statusPanels, this);
+  setStatusBar(bar);
+  connect(bar, &MainStatusBar::JobClicked, this, [this] { actions_->JobPanel_Click(); });
+  connect(bar, &MainStatusBar::ConnectionClicked, this, [this] { actions_->ConnectionPanel_Click(); });
+  connect(area_, &QMdiArea::subWindowActivated, this, &frmMain::EnableEntries);
+  setAcceptDrops(true);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::MDIForm_Load() {
+  context_.files.ClearTemp();
+  for (const MenuEntry& entry : MenuEntries()) {
+    if (entry.kind == Kind::Developer) Entry(entry.name)->setVisible(context_.developerMode);
+  }
+  Refresh();
+  SetMainCaption();
+  ReadGeometryAndMarks();
+  EnableEntries();
+}
+
+void frmMain::SetMainCaption() {
+  setWindowTitle(MainCaption());
+  const bool production =
+      context_.settings.GetSetting(common::kSettingsSection, "EnableProduction", "0") == "1";
+  findChild<QMenu*>("mnuProduction")->menuAction()->setVisible(production);
+}
+
+void frmMain::Refresh() {
+  const common::SettingsSnapshot settings = context_.settings.Read();
+  const auto get = [&](const char* key, const char* fallback) {
+    return settings.Get(common::kSettingsSection, key, fallback);
+  };
+  findChild<QMenu*>("mnuProduction")->menuAction()->setVisible(get("EnableProduction", "0") == "1");
+  windows_.RedrawActiveJob();
+  constexpr int kNetwork = 5;
+  const int port = static_cast<int>(settings.Number(common::kSettingsSection, "ComPort", "1"));
+  context_.statusPanels.SetText(context::Panel::Connection, port == kNetwork ? platform::ToQt(get("IP", ""))
+                                                                             : "COM" + QString::number(port));
+}
+
+void frmMain::ShowViewMarks() {
+  for (const ViewMark& mark : ViewMarks()) Entry(mark.entry)->setChecked(context_.viewOptions.*mark.flag);
+}
+
+MdiChild* frmMain::AddChild(QWidget* form) {
+  auto* child = new MdiChild(form, context_.operations);
+  area_->addSubWindow(child);
+  child->show();
+  return child;
+}
+
+QWidget* frmMain::ActiveForm() const {
+  const QMdiSubWindow* child = area_->currentSubWindow();
+  return child != nullptr && child->isVisible() ? child->widget() : nullptr;
+}
+
+QAction* frmMain::Entry(const char* name) const {
+  return menuBar()->findChild<QAction*>(name);
+}
+
+void frmMain::EnableEntries() {
+  const bool job = windows_.EditorIsActive();
+  for (const MenuEntry& entry : MenuEntries()) {
+    if (entry.needs == Needs::Job && entry.click != nullptr) Entry(entry.name)->setEnabled(job);
+  }
+}
+
+}  // namespace morvane::app

@@ -1,0 +1,168 @@
+// Start, end, size and drops of the main window.
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMimeData>
+#include <QScreen>
+
+#include "app/AppWindows.h"
+#include "app/MainGeometry.h"
+#include "app/MdiChild.h"
+#include "app/MenuActions.h"
+#include "app/RecentFiles.h"
+#include "app/ViewMarks.h"
+#include "app/frmMain.h"
+#include "common/FileNames.h"
+#include "common/Files.h"
+#include "common/Numbers.h"
+#include "common/RunTimeError.h"
+#include "common/Settings.h"
+#include "context/AppContext.h"
+#include "platform/Prompts.h"
+#include "platform/qt/Operations.h"
+#include "platform/qt/QtText.h"
+
+namespace morvane::app {
+namespace {
+
+// A window that lies on no screen (one that has been unplugged) comes up on the first one.
+QRect OnScreen(QRect place) {
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    if (screen->availableGeometry().intersects(place.adjusted(0, 0, 0, 40 - place.height()))) return place;
+  }
+  place.moveTo(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+  return place;
+}
+
+std::vector<QString> LocalFiles(const QMimeData& data) {
+  std::vector<QString> files;
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) files.push_back(url.toLocalFile());
+  }
+  return files;
+}
+
+}  // namespace
+
+void frmMain::ReadGeometryAndMarks() {
+  MainGeometry geometry;
+  try {
+    geometry = ReadGeometry(context_.settings);
+    ReadViewMarks(context_.settings, context_.viewOptions);
+  } catch (const common::RunTimeError& error) {
+    context_.prompts.MsgBox("MDIForm_Load-" + error.description());
+  }
+  ShowViewMarks();
+  HoldMinimumSize();
+  const QRect place = OnScreen(ToPixels(geometry));
+  resize(place.size());
+  move(place.topLeft());
+}
+
+void frmMain::HoldMinimumSize() {
+  const bool normal =
+      (windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
+  const MainGeometry least;
+  setMinimumSize(normal ? ToPixels(least).size() : QSize(0, 0));
+}
+
+void frmMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) HoldMinimumSize();
+  if (event->type() == QEvent::PaletteChange) area_->setBackground(palette().brush(QPalette::Dark));
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (context_.operations.Running()) {
+    // The operation sees the abort flag at its next wait; the rest of the way out follows then.
+    context_.operations.Quit();
+    setEnabled(false);
+    context_.operations.WhenIdle([this] {
+      setEnabled(true);
+      close();
+    });
+    event->ignore();
+    return;
+  }
+  context_.operations.Quit();
+  if (!UnloadForms()) {
+    context_.operations.CancelQuit();
+    event->ignore();
+    return;
+  }
+  WriteGeometryAndMarks();
+  context_.files.ClearTemp();
+  event->accept();
+  emit Unloaded();
+}
+
+bool frmMain::UnloadForms() {
+  for (QMdiSubWindow* child : area_->subWindowList(QMdiArea::CreationOrder)) {
+    if (child->isVisible() && !child->close()) return false;
+  }
+  return true;
+}
+
+void frmMain::WriteGeometryAndMarks() {
+  std::vector<common::SettingChange> changes;
+  const auto add = [&](const char* key, std::string value) {
+    changes.push_back({std::string(common::kSettingsSection), key, std::move(value)});
+  };
+  if (!isMinimized()) {
+    const MainGeometry geometry = ToTwips(QRect(pos(), size()));
+    add("MainLeft", common::PlainNumber(geometry.left));
+    add("MainTop", common::PlainNumber(geometry.top));
+    add("MainWidth", common::PlainNumber(geometry.width));
+    add("MainHeight", common::PlainNumber(geometry.height));
+  }
+  for (const ViewMark& mark : ViewMarks()) {
+    add(mark.key, context_.viewOptions.*mark.flag ? "True" : "False");
+  }
+  try {
+    context_.settings.Apply(changes);
+  } catch (const common::RunTimeError&) {
+    // Nobody is left to do anything about it, and the old settings are whole.
+  }
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+  if (!LocalFiles(*event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+  const std::vector<QString> files = LocalFiles(*event->mimeData());
+  event->acceptProposedAction();
+  // The source of the drag waits for this event, so the files are opened after it.
+  QMetaObject::invokeMethod(
+      this,
+      [this, files] {
+        for (const QString& file : files) windows_.OpenFile(platform::PathFromQt(file));
+      },
+      Qt::QueuedConnection);
+}
+
+void frmMain::BuildRecentFiles() {
+  auto* file = findChild<QMenu*>("mnuFile");
+  auto* recent = new QMenu(tr("&Recent Files"), this);
+  recent->setObjectName("mnuFileRecent");
+  recent->menuAction()->setStatusTip(tr("Open a file that was used lately"));
+  file->insertMenu(Entry("mnuFileDownload"), recent);
+  connect(file, &QMenu::aboutToShow, this, &frmMain::ShowRecentFiles);
+}
+
+void frmMain::ShowRecentFiles() {
+  auto* recent = findChild<QMenu*>("mnuFileRecent");
+  recent->clear();
+  int number = 0;
+  for (const std::string& path : RecentFiles(context_.settings)) {
+    QString name = platform::PathToQt(common::PathFileName(path));
+    QAction* action = recent->addAction(QString("&%1 %2").arg(++number).arg(name.replace("&", "&&")));
+    action->setStatusTip(platform::PathToQt(path));
+    connect(action, &QAction::triggered, this, [this, path] { windows_.OpenFile(path); });
+  }
+  recent->setEnabled(number > 0);
+}
+
+}  // namespace morvane::app

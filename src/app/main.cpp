@@ -1,0 +1,20 @@
+#include <QApplication>
+#include <QDir>
+
+#include "app/Program.h"
+#include "app/Version.h"
+#include "platform/qt/QtText.h"
+
+int main(int argc, char** argv) {
+  using namespace morvane;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(app::kTitle);
+  QApplication::setApplicationVersion(app::VersionText());
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const QString programDirectory = QApplication::applicationDirPath();
+  const QString wanted = qEnvironmentVariable("MORVANE_BASE");
+  const QString base = wanted.isEmpty() ? programDirectory : QDir(wanted).absolutePath();
+  app::Program program(platform::PathFromQt(programDirectory), platform::PathFromQt(base));
+  return program.Run(app::ParseCommandLine(QApplication::arguments().mid(1)));
+}

@@ -1,0 +1,53 @@
+// What the process has one of. Forms take it; core functions take only what they need out of it.
+#pragma once
+
+namespace morvane::common {
+class FileDialogs;
+class Files;
+class Settings;
+struct ProcessRunner;
+}  // namespace morvane::common
+
+namespace morvane::platform {
+class Clock;
+class Locale;
+class Operations;
+class PictureStore;
+class Progress;
+class Prompts;
+class SystemInfo;
+class WaitWindow;
+}  // namespace morvane::platform
+
+namespace morvane::widgets {
+class Windows;
+}
+
+namespace morvane::context {
+
+class StatusPanels;
+struct ViewOptions;
+
+struct AppContext {
+  const common::Files& files;
+  const common::Settings& settings;
+  const common::ProcessRunner& processes;
+  platform::Clock& clock;
+  platform::Locale& locale;
+  platform::SystemInfo& systemInfo;
+  platform::Prompts& prompts;
+  common::FileDialogs& fileDialogs;
+  platform::WaitWindow& waitWindow;
+  platform::Progress& progress;
+  platform::Operations& operations;
+  platform::PictureStore& pictures;
+  StatusPanels& statusPanels;
+  ViewOptions& viewOptions;
+  widgets::Windows& windows;
+  // Ends every wait and transfer; set while the program closes.
+  const bool& abortTransfers;
+  // Engineering mode.
+  const bool& developerMode;
+};
+
+}  // namespace morvane::context

@@ -1,0 +1,79 @@
+#include "gcode/frmGraphic.h"
+
+#include <QButtonGroup>
+#include <QToolButton>
+
+#include "common/FileNames.h"
+#include "context/AppContext.h"
+#include "platform/qt/QtCanvas.h"
+#include "platform/qt/QtText.h"
+#include "ui_frmGraphic.h"
+#include "widgets/NotAvailable.h"
+
+namespace morvane::gcode {
+namespace {
+
+constexpr int kSwatchSize = 16;  // pixels
+
+QIcon Swatch(platform::Color color) {
+  QPixmap pixmap(kSwatchSize * 2, kSwatchSize * 2);
+  pixmap.fill(platform::ToQt(color));
+  return {pixmap};
+}
+
+}  // namespace
+
+frmGraphic::frmGraphic(const context::AppContext& context, const std::string& name, QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::frmGraphic>()), swatches_(new QButtonGroup(this)) {
+  ui_->setupUi(this);
+  setWindowTitle("Job Viewer - " + platform::ToQt(common::PathFileName(name)));
+  AddSwatches();
+  widgets::MarkNotAvailable(*ui_->cmdEditTools);
+  connect(ui_->chkPenup, &QCheckBox::toggled, this, &frmGraphic::chkPenup_Click);
+  connect(ui_->chkShowAllTools, &QCheckBox::toggled, this, &frmGraphic::chkShowAllTools_Click);
+  PassOptions& options = ui_->pic->Options();
+  options.showRapids = ui_->chkPenup->isChecked();
+  options.allTools = ui_->chkShowAllTools->isChecked();
+  ui_->pic->Use(context, Viewer::Graphic);
+  ui_->pic->OpenFile(name);
+}
+
+frmGraphic::~frmGraphic() = default;
+
+void frmGraphic::AddSwatches() {
+  constexpr int kRows = 2;
+  for (int index = 0; index < kToolCount; ++index) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(QString("picColor%1").arg(index));
+    button->setIcon(Swatch(ToolColor(index + 1)));
+    button->setIconSize({kSwatchSize, kSwatchSize});
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolTip(tr("Show tool %1 alone").arg(index + 1));
+    button->setAccessibleName(tr("Tool %1").arg(index + 1));
+    swatches_->addButton(button, index);
+    ui_->swatches->addWidget(button, index % kRows, index / kRows);
+  }
+  swatches_->button(0)->setChecked(true);
+  connect(swatches_, &QButtonGroup::idClicked, this, &frmGraphic::picColor_Click);
+}
+
+void frmGraphic::picColor_Click(int index) {
+  PassOptions& options = ui_->pic->Options();
+  options.shownTool = static_cast<std::int16_t>(index + 1);
+  // Taking the mark off redraws.
+  if (ui_->chkShowAllTools->isChecked()) return ui_->chkShowAllTools->setChecked(false);
+  ui_->pic->DrawFile();
+}
+
+void frmGraphic::chkShowAllTools_Click() {
+  ui_->pic->Options().allTools = ui_->chkShowAllTools->isChecked();
+  ui_->pic->DrawFile();
+}
+
+void frmGraphic::chkPenup_Click() {
+  ui_->pic->Options().showRapids = ui_->chkPenup->isChecked();
+  ui_->pic->DrawFile();
+}
+
+}  // namespace morvane::gcode

@@ -1,0 +1,41 @@
+#include "platform/qt/PictureStore.h"
+
+#include <QImageReader>
+#include <algorithm>
+
+#include "common/Files.h"
+#include "common/RunTimeError.h"
+#include "platform/qt/QtText.h"
+
+namespace morvane::platform {
+namespace {
+
+constexpr std::size_t kMaxEntries = 8;
+
+QImage Load(const std::string& path) {
+  QImageReader reader(PathToQt(path));
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  return reader.read();
+}
+
+}  // namespace
+
+const QImage& PictureStore::Get(const std::string& name) {
+  std::string path;
+  std::int64_t modified = 0;
+  try {
+    path = files_.Resolve(name);
+    modified = files_.ModifiedTime(name);
+  } catch (const common::RunTimeError&) {
+    return none_;
+  }
+  const auto found =
+      std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.path == path; });
+  if (found != entries_.end() && found->modified == modified) return found->image;
+  if (found != entries_.end()) entries_.erase(found);
+  if (entries_.size() >= kMaxEntries) entries_.erase(entries_.begin());
+  return entries_.emplace_back(Entry{path, modified, Load(path)}).image;
+}
+
+}  // namespace morvane::platform

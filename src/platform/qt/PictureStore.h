@@ -1,0 +1,34 @@
+// Pictures that drawings name, loaded once for each state of their file.
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace morvane::common {
+class Files;
+}
+
+namespace morvane::platform {
+
+class PictureStore {
+ public:
+  explicit PictureStore(const common::Files& files) : files_(files) {}
+  // By program name. The kind is told by the file's content (bmp with its run-length form, jpg, gif,
+  // ico), not by its name. A null image when it cannot be loaded.
+  const QImage& Get(const std::string& name);
+
+ private:
+  struct Entry {
+    std::string path;
+    std::int64_t modified = 0;
+    QImage image;
+  };
+
+  const common::Files& files_;
+  std::vector<Entry> entries_;  // newest last
+  QImage none_;
+};
+
+}  // namespace morvane::platform

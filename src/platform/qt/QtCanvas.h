@@ -1,0 +1,65 @@
+// Paints a drawing with the toolkit's painter, in device pixels.
+#pragma once
+
+#include <QColor>
+#include <QLineF>
+#include <QRectF>
+#include <QSize>
+#include <optional>
+#include <vector>
+
+#include "platform/Canvas.h"
+
+class QPainter;
+
+namespace morvane::platform {
+
+class PictureStore;
+
+class QtCanvas : public Canvas {
+ public:
+  struct Surface {
+    QSize pixels;       // device pixels
+    double ratio = 1;   // device pixels to one pixel of a pen
+    QColor background;  // what Clear leaves
+    // So many lines are antialiased: better to look at, several times slower.
+    std::size_t smoothLines = 30000;
+  };
+
+  // The painter paints device pixels: it has no transformation and its device a ratio of 1.
+  QtCanvas(QPainter& painter, const Surface& surface, PictureStore& pictures);
+  // Shows this part of the world, whatever scale the drawing sets.
+  void HoldView(const CanvasView& view);
+
+  void Clear() override;
+  void SetScale(const CanvasView& view) override;
+  void Lines(const Pen& pen, const Segment* segments, std::size_t count) override;
+  void Box(const Rectangle& box, Color color, bool filled) override;
+  void Circle(float x, float y, float radius, const Pen& pen) override;
+  void Text(float x, float y, const std::string& text, Color color, const TextFace& face) override;
+  void Image(const std::string& name, const Rectangle& place) override;
+
+ private:
+  double X(double x) const { return (x - left_) * scaleX_; }
+  double Y(double y) const { return (y - top_) * scaleY_; }
+  QRectF Place(const Rectangle& rectangle) const;
+  void UsePen(const Pen& pen);
+  void CountLines(std::size_t count);
+  void UseView(const CanvasView& view);
+
+  QPainter& painter_;
+  Surface surface_;
+  PictureStore& pictures_;
+  std::optional<Pen> pen_;
+  std::size_t lines_ = 0;
+  std::vector<QLineF> batch_;
+  bool held_ = false;
+  double left_ = 0;
+  double top_ = 0;
+  double scaleX_ = 1;  // pixels to a world unit
+  double scaleY_ = 1;
+};
+
+QColor ToQt(Color color);
+
+}  // namespace morvane::platform

@@ -1,0 +1,94 @@
+// Shows a drawing and lets its user zoom and move in it. The painted picture is kept, so that only a
+// changed drawing or view costs painting.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPointF>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+#include "platform/Canvas.h"
+
+namespace morvane::platform {
+class PictureStore;
+}
+
+namespace morvane::widgets {
+
+class CanvasView : public QWidget {
+  Q_OBJECT
+
+ public:
+  // Draws the whole drawing into the canvas; called once for each painting.
+  struct Drawing {
+    std::function<void(platform::Canvas&)> draw;
+    platform::CanvasView fit;  // what is seen without zoom
+  };
+
+  explicit CanvasView(QWidget* parent = nullptr);
+  // The pictures that drawings name; without a store none are drawn.
+  void SetPictures(platform::PictureStore* pictures) { pictures_ = pictures; }
+  // Around and behind the drawing. An invalid colour stands for the desktop's own.
+  void SetBackground(const QColor& color);
+  // Zoom and place stay as they are.
+  void SetDrawing(Drawing drawing);
+
+  // What the widget shows now, and what it would show without zoom.
+  platform::CanvasView View() const;
+  const platform::CanvasView& FitView() const { return drawing_.fit; }
+  double Zoom() const { return zoom_; }
+  QPointF ToWorld(const QPointF& position) const;
+  QPointF FromWorld(const QPointF& world) const;
+
+  // Keeps the world point at `position` where it is.
+  void ZoomAt(const QPointF& position, double factor);
+  // By a number of pixels.
+  void Pan(const QPointF& distance);
+  void Fit();
+
+  QSize sizeHint() const override { return {480, 320}; }
+
+ signals:
+  void MouseMoved(const QPointF& world);
+  void MouseLeft();
+  void Pressed(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+  void DoubleClicked(const QPointF& world);
+  // The widget has another shape, so the drawing may want another fit.
+  void Resized();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void ShowOther();
+  void Render();
+  bool PaintsSlowly() const;
+  QRectF PaintedPlace() const;
+
+  Drawing drawing_;
+  platform::PictureStore* pictures_ = nullptr;
+  QColor background_;
+  double zoom_ = 1;
+  QPointF shift_;  // of the upper left corner, in world units, from where the fit has it
+
+  QImage painted_;
+  platform::CanvasView paintedView_;
+  bool stale_ = true;     // the drawing changed since it was painted
+  qint64 paintTime_ = 0;  // milliseconds that the last painting took
+  QTimer repaint_;        // paints after a slow drawing was moved
+  bool panning_ = false;
+  QPointF panFrom_;
+};
+
+}  // namespace morvane::widgets

@@ -1,0 +1,107 @@
+#include "widgets/QtPrompts.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "platform/qt/Operations.h"
+#include "platform/qt/QtText.h"
+#include "widgets/frmSelect.h"
+
+namespace morvane::widgets {
+
+using platform::Answer;
+using platform::Buttons;
+using platform::FromQt;
+using platform::ToQt;
+
+namespace {
+
+QMessageBox::StandardButtons ToButtons(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::OkCancel:
+      return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+Answer ToAnswer(int button) {
+  switch (button) {
+    case QMessageBox::Ok:
+      return Answer::Ok;
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
+}  // namespace
+
+int QtPrompts::Exec(QDialog& dialog) {
+  const platform::Operations::Scope scope(operations_);
+  return dialog.exec();
+}
+
+Answer QtPrompts::MsgBox(const std::string& text, Buttons buttons, const std::string& title) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(ToQt(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(text));
+  box.setIcon(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question);
+  box.setStandardButtons(ToButtons(buttons));
+  Exec(box);
+  const QAbstractButton* clicked = box.clickedButton();
+  if (clicked != nullptr) return ToAnswer(box.standardButton(box.clickedButton()));
+  // Taken away without an answer, as when the session ends: the answer that does nothing.
+  return buttons == Buttons::YesNo ? Answer::No : (buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel);
+}
+
+std::optional<std::string> QtPrompts::InputBox(const std::string& prompt, const std::string& title,
+                                               const std::string& preset) {
+  QInputDialog dialog(QApplication::activeWindow());
+  dialog.setWindowTitle(ToQt(title));
+  dialog.setLabelText(ToQt(prompt));
+  dialog.setTextValue(ToQt(preset));
+  if (Exec(dialog) != QDialog::Accepted) return std::nullopt;
+  return FromQt(dialog.textValue());
+}
+
+std::optional<std::uint32_t> QtPrompts::ChooseColor(std::uint32_t preset) {
+  QColorDialog dialog(QColor(preset & 255, preset >> 8 & 255, preset >> 16 & 255),
+                      QApplication::activeWindow());
+  if (Exec(dialog) != QDialog::Accepted) return std::nullopt;
+  const QColor color = dialog.selectedColor();
+  return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
+std::vector<std::string> QtPrompts::Pick(const std::string& title, const std::vector<std::string>& entries,
+                                         bool many) {
+  QStringList texts;
+  for (const std::string& entry : entries) texts.push_back(ToQt(entry));
+  frmSelect dialog(texts, QApplication::activeWindow());
+  if (!title.empty()) dialog.setWindowTitle(ToQt(title));
+  if (many) dialog.AllowMany();
+  Exec(dialog);
+  std::vector<std::string> chosen;
+  for (const QString& text : dialog.Selected()) chosen.push_back(FromQt(text));
+  return chosen;
+}
+
+std::string QtPrompts::PickOne(const std::string& title, const std::vector<std::string>& entries) {
+  const std::vector<std::string> chosen = Pick(title, entries, false);
+  return chosen.empty() ? std::string() : chosen.front();
+}
+
+std::vector<std::string> QtPrompts::PickMany(const std::string& title,
+                                             const std::vector<std::string>& entries) {
+  return Pick(title, entries, true);
+}
+
+}  // namespace morvane::widgets

@@ -1,0 +1,51 @@
+// Message boxes and dialogs of the desktop for the core's questions.
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "platform/Prompts.h"
+
+class QDialog;
+class QFileDialog;
+class QWidget;
+
+namespace morvane::platform {
+class Operations;
+}
+
+namespace morvane::widgets {
+
+class QtPrompts : public platform::Prompts {
+ public:
+  // Makes a panel that shows the dialog's selected file; the dialog takes it.
+  using SidePanel = std::function<QWidget*(QFileDialog&)>;
+
+  explicit QtPrompts(platform::Operations& operations) : operations_(operations) {}
+  // Open dialogs with this default extension (lower case) get a panel at their side.
+  void SetSidePanel(const std::string& extension, SidePanel panel) { panels_[extension] = std::move(panel); }
+
+  platform::Answer MsgBox(const std::string& text, platform::Buttons buttons,
+                          const std::string& title) override;
+  std::optional<std::string> InputBox(const std::string& prompt, const std::string& title,
+                                      const std::string& preset) override;
+  std::string OpenFile(const platform::FileDialogRequest& request) override;
+  std::string SaveFile(const platform::FileDialogRequest& request) override;
+  std::vector<std::string> OpenFiles(const platform::FileDialogRequest& request) override;
+  std::string ChooseFolder(const std::string& title, const std::string& directory) override;
+  std::optional<std::uint32_t> ChooseColor(std::uint32_t preset) override;
+  std::string PickOne(const std::string& title, const std::vector<std::string>& entries) override;
+  std::vector<std::string> PickMany(const std::string& title,
+                                    const std::vector<std::string>& entries) override;
+
+ private:
+  int Exec(QDialog& dialog);
+  void Prepare(QFileDialog& dialog, const platform::FileDialogRequest& request) const;
+  void AddSidePanel(QFileDialog& dialog, const std::string& extension) const;
+  std::vector<std::string> Pick(const std::string& title, const std::vector<std::string>& entries, bool many);
+
+  platform::Operations& operations_;
+  std::map<std::string, SidePanel> panels_;
+};
+
+}  // namespace morvane::widgets
