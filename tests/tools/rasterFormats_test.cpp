@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "pixbake/Bitmap.h"
+#include "pixbake/Checksum.h"
+#include "pixbake/LittleEndian.h"
+#include "pixbake/Ras.h"
+#include "support/Mutator.h"
+
+namespace morvane::test {
+namespace {
+
+using namespace std::string_literals;
+using pixbake::FormatError;
+using pixbake::GreyImage;
+
+// Puts a 32-bit number into a header.
+std::string Patched(std::string bytes, std::size_t at, std::uint32_t value) {
+  std::string number;
+  pixbake::Put32(number, value);
+  return bytes.replace(at, 4, number);
+}
+
+std::string WithChecksum(std::string raster) {
+  raster.resize(raster.size() - 4);
+  pixbake::Put32(raster, pixbake::Crc32(raster));
+  return raster;
+}
+
+template <typename Read>
+std::string Failure(Read read, const std::string& bytes) {
+  try {
+    read(bytes);
+  } catch (const FormatError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST(RasterFormats, ARasterByteForByte) {
+  // One row of "as they are", one of a run longer than a control byte can say, and a run behind others.
+  const GreyImage image{131, 2, "ab"s + std::string(129, 'c') + std::string(131, 'd')};
+  const std::string body = "MRAS\x01\0\x08\0\x83\0\0\0\x02\0\0\0"s +
+                           "\x01"
+                           "ab\xFF"
+                           "c" +
+                           "\xFF"
+                           "d\x01"
+                           "dd";
+  std::string expected = body;
+  pixbake::Put32(expected, pixbake::Crc32(body));
+  EXPECT_EQ(pixbake::Crc32("123456789"), 0xCBF43926u);  // the check value of the checksum's definition
+  EXPECT_EQ(pixbake::WriteRas(image), expected);
+  EXPECT_EQ(pixbake::ReadRas(expected), image);
+}
+
+TEST(RasterFormats, BitmapsOfEveryKind) {
+  const std::string blueGreenRed = "\xFF\0\0\0\xFF\0\0\0\xFF"s;
+  const std::string blueGreenRed4 = "\xFF\0\0\x07\0\xFF\0\x07\0\0\xFF\x07"s;
+  // File header with the pixels' place, info header, then colour table and pixels.
+  const auto bitmap = [](std::uint32_t pixelsAt, std::uint32_t width, std::uint32_t height,
+                         std::uint32_t bits, std::uint32_t colours, const std::string& rest) {
+    std::string bytes = "BM"s + std::string(52, '\0');
+    const std::pair<std::size_t, std::uint32_t> fields[] = {
+        {10, pixelsAt}, {14, 40}, {18, width}, {22, height}, {26, 1}, {28, bits}, {46, colours}};
+    for (const auto& [at, value] : fields) bytes = Patched(bytes, at, value);
+    return bytes + rest;
+  };
+  const std::string colours = "\xFF\0\0\0\0\xFF\0\0\0\0\xFF\0"s;  // blue, green, red
+  const struct {
+    std::string bytes;
+    GreyImage image;
+  } cases[] = {
+      {bitmap(54, 3, 1, 24, 0, blueGreenRed + "fil"), {3, 1, "\x1D\x96\x4C"}},
+      {bitmap(56, 1, 2, 32, 0, "..\x10\x10\x10.\x20\x20\x20."s), {1, 2, "\x20\x10"}},
+      {bitmap(54, 3, static_cast<std::uint32_t>(-1), 32, 0, blueGreenRed4), {3, 1, "\x1D\x96\x4C"}},
+      {bitmap(66, 2, static_cast<std::uint32_t>(-2), 8, 3, colours + "\0\1..\2\0.."s),
+       {2, 2, "\x1D\x96\x4C\x1D"}},
+  };
+  for (const auto& each : cases) EXPECT_EQ(pixbake::ReadBitmap(each.bytes), each.image);
+
+  const std::string good = pixbake::WriteBitmap({2, 1, "\x10\x20"});
+  EXPECT_EQ(good.size(), 1078u + 4u);
+  const struct {
+    std::string bytes;
+    const char* message;
+  } bad[] = {
+      {bitmap(66, 2, 1, 8, 3, colours + "\0\3.."s), "A pixel has a colour that is not in the bitmap's table"},
+      {bitmap(54, 2, 1, 8, 3, colours + "\0\1.."s), "The bitmap's pixels lie outside the file"},
+      {Patched(good, 10, 0xFFFFFFFF), "The bitmap's pixels lie outside the file"},
+      {Patched(good, 14, 0xFFFFFFFF), "The bitmap's header is not known"},
+      {Patched(good, 14, 12), "The bitmap's header is not known"},
+      {Patched(good, 18, 0), "The picture has no pixels"},
+      {Patched(good, 18, 0x80000000), "The bitmap's width is negative"},
+      {Patched(good, 22, 0x80000000), "The picture is too large (2 x 2147483648)"},
+      {Patched(Patched(good, 18, 32767), 22, 32767), "The picture is too large (32767 x 32767)"},
+      {Patched(good, 22, 32767), "The bitmap ends within its pixels"},
+      {Patched(good, 28, 4), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
+      {Patched(good, 30, 1), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
+      {Patched(good, 46, 257), "The bitmap's colour table is too long"},
+  };
+  for (const auto& each : bad) EXPECT_EQ(Failure(pixbake::ReadBitmap, each.bytes), each.message);
+}
+
+TEST(RasterFormats, RastersThatLie) {
+  const std::string good = pixbake::WriteRas({5, 2, "aaaaabbbbb"});  // two runs of two bytes
+  const struct {
+    std::string bytes;
+    const char* message;
+  } cases[] = {
+      {good + ".", "The raster is damaged or cut short"},
+      {Patched(good, 4, 2), "The raster is of a version that is not known"},
+      {"MRAS", "The raster ends within its header"},
+      {WithChecksum(Patched(good, 8, 0)), "The picture has no pixels"},
+      {WithChecksum(Patched(good, 8, 0xFFFFFFFF)), "The picture is too large (4294967295 x 2)"},
+      {WithChecksum(Patched(Patched(good, 8, 8192), 12, 8192)), "The raster ends within its pixels"},
+      {WithChecksum(Patched(good, 8, 4)), "A row of the raster is too long"},
+      {WithChecksum(Patched(good, 12, 1)), "The raster has more data than pixels"},
+      {WithChecksum(Patched(good, 16, 0x62046183)), "The raster ends within its pixels"},
+  };
+  for (const auto& each : cases) EXPECT_EQ(Failure(pixbake::ReadRas, each.bytes), each.message);
+}
+
+// Whatever is read must be a whole picture; everything else must be refused in words.
+template <typename Read>
+void ReadWholeOrRefuse(Read read, const std::string& bytes) {
+  try {
+    const GreyImage image = read(bytes);
+    ASSERT_EQ(image.pixels.size(), image.width * image.height);
+    ASSERT_FALSE(image.pixels.empty());
+  } catch (const FormatError& error) {
+    ASSERT_STRNE(error.what(), "");
+  }
+}
+
+TEST(RasterFormats, DamagedBitmaps) {
+  const GreyImage image{5, 3, "aaaaabcdefggggg"};
+  const std::string grey = pixbake::WriteBitmap(image);
+  const std::string shortTable = Patched(Patched(grey, 46, 110), 10, 54 + 440).erase(54 + 440, 146 * 4);
+  const std::string colour = Patched(Patched(grey.substr(0, 54) + std::string(48, 'x'), 28, 24), 10, 54);
+  ASSERT_EQ(pixbake::ReadBitmap(shortTable), image);
+  ASSERT_EQ(pixbake::ReadBitmap(colour).pixels, std::string(15, 'x'));
+  RunMutations({grey, shortTable, colour},
+               [](const std::string& bytes) { ReadWholeOrRefuse(pixbake::ReadBitmap, bytes); });
+}
+
+TEST(RasterFormats, DamagedRasters) {
+  const std::string raster =
+      pixbake::WriteRas({19, 5, std::string(40, 'a') + "bcdefghij" + std::string(46, 'k')});
+  RunMutations({raster}, [](const std::string& bytes) {
+    ReadWholeOrRefuse(pixbake::ReadRas, bytes);
+    // Without a fitting checksum hardly any damage would get past the first look.
+    if (bytes.size() > 4) ReadWholeOrRefuse(pixbake::ReadRas, WithChecksum(bytes));
+  });
+}
+
+}  // namespace
+}  // namespace morvane::test
