@@ -44,6 +44,35 @@ bool IsTooLarge(const char* first, const char* last) {
   return exponent + (negative ? -written : written) > 0;
 }
 
+// Coordinates have either sign, which no branch predictor foresees.
+constexpr double kSigns[] = {1, -1};
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+
+const char* AddDigits(const char* p, const char* last, std::int64_t& digits) {
+  for (; p != last && IsDigit(*p); ++p) digits = digits * 10 + (*p - '0');
+  return p;
+}
+
+// Nearly all numbers of files are short and plain. Up to 15 digits and their power of ten are exact in a
+// double, so that one division rounds as from_chars does, in half its time. Null when the number is of
+// another kind; `p` is at a digit, or at a point with a digit behind it.
+const char* ParsePlainDecimal(const char* p, const char* last, double& value) {
+  constexpr std::ptrdiff_t kMostCharacters = 15;
+  const char* const stop = last - p > kMostCharacters ? p + kMostCharacters : last;
+  std::int64_t digits = 0;
+  std::ptrdiff_t decimals = 0;
+  p = AddDigits(p, stop, digits);
+  if (p != stop && *p == '.') {
+    const char* const behindPoint = p + 1;
+    p = AddDigits(behindPoint, stop, digits);
+    decimals = p - behindPoint;
+  }
+  if (p == stop ? stop != last : (*p == 'e' || *p == 'E')) return nullptr;
+  value = static_cast<double>(digits) / kPowersOfTen[decimals];
+  return p;
+}
+
 double ParseHexadecimal(const char* first, const char* last, const char*& end) {
   double value = 0;
   for (end = first; end != last; ++end) {
@@ -84,6 +113,10 @@ double ParseNumber(std::string_view text, std::size_t& end) {
   // Words such as "nan" and "inf" are no numbers here, and from_chars would take them.
   if (p == last || !(IsDigit(*p) || (*p == '.' && p + 1 != last && IsDigit(p[1])))) return 0;
   double value = 0;
+  if (const char* const plain = ParsePlainDecimal(p, last, value)) {
+    end = static_cast<std::size_t>(plain - start);
+    return kSigns[negative] * value;
+  }
   const auto [stop, error] = std::from_chars(p, last, value);
   end = static_cast<std::size_t>(stop - start);
   if (error != std::errc()) value = IsTooLarge(p, stop) ? std::numeric_limits<double>::max() : 0;

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <limits>
+#include <random>
 
 #include "common/RunTimeError.h"
 
@@ -155,6 +157,23 @@ TEST(Numbers, StrictConversionsFail) {
   EXPECT_FALSE(StrictBoolean("False"));
   EXPECT_TRUE(StrictBoolean("-1"));
   EXPECT_THROW(StrictBoolean("yes"), RunTimeError);
+}
+
+// Plain decimals take a short way of their own: it must round and stop as from_chars does.
+TEST(Numbers, PlainDecimalsReadAsFromCharsDoes) {
+  std::mt19937 random(7);
+  const std::string_view alphabet = "01234567899..eEY -";
+  for (int i = 0; i < 200000; ++i) {
+    std::string text = std::to_string(random() % 10);
+    for (auto length = random() % 20; length > 0; --length) text += alphabet[random() % alphabet.size()];
+    double expected = 0;
+    const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), expected);
+    if (error != std::errc()) continue;
+    std::size_t end = 0;
+    ASSERT_EQ(ParseNumber(text, end), expected) << text;
+    ASSERT_EQ(end, static_cast<std::size_t>(stop - text.data())) << text;
+    ASSERT_EQ(ParseNumber('-' + text), -expected) << text;
+  }
 }
 
 }  // namespace
