@@ -1,13 +1,18 @@
 #include "gcode/GcodeProgram.h"
 
+#include <algorithm>
 #include <cstdint>
-
-#include "common/Lines.h"
-
 namespace morvane::gcode {
 namespace {
 
-constexpr std::size_t kBlockSize = 8192;
+constexpr std::size_t kBlockSize = 4096;
+
+// Drops the rest of a line with its end: CR LF, CR or LF.
+void SkipLine(std::string_view& text, std::size_t from) {
+  while (from < text.size() && text[from] != '\r' && text[from] != '\n') ++from;
+  const bool pair = text.substr(from, 2) == "\r\n";
+  text.remove_prefix(std::min(from + (pair ? 2 : 1), text.size()));
+}
 
 }  // namespace
 
@@ -23,13 +28,13 @@ void GcodeProgram::Add(const Statement& statement) {
 
 GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals) {
   GcodeProgram program;
-  common::Lines lines(text);
-  std::string_view line;
   Word previous = Word::Unknown;
-  for (std::uint32_t number = 1; lines.Next(line); ++number) {
-    Statement statement = ParseStatement(line, foldToCapitals);
+  for (std::uint32_t line = 1; !text.empty(); ++line) {
+    std::size_t used = 0;
+    Statement statement = ParseStatement(text, foldToCapitals, used);
+    SkipLine(text, used);
     if (statement.word == Word::Unknown && previous != Word::Tool) continue;
-    statement.line = number;
+    statement.line = line;
     previous = statement.word;
     program.Add(statement);
   }

@@ -18,7 +18,7 @@ constexpr platform::Color kSmallFeed = 0x000000;
 Pass::Pass(const PassOptions& options, platform::Canvas* canvas)
     : options_(options), viewer_(OptionsOf(options.viewer)), batch_(canvas) {
   state_.Extents = options.extents;
-  SetFeedWidth();
+  SetPens();
 }
 
 const PassState& Pass::Run(const GcodeProgram& program) {
@@ -61,12 +61,14 @@ void Pass::Move(const Statement& statement) {
 
 void Pass::MoveAbsolute(float x, float y, bool feed) {
   const Point start = {state_.X, state_.Y};
-  const std::optional<platform::Pen> pen = PenOf(feed);
-  if (pen) batch_.Add(*pen, {start.x, start.y, x, y});
+  const bool drawn = feed || options_.showRapids;
+  if (feed && !toolExists_) throw common::RunTimeError(common::kSubscriptOutOfRange);
+  if (drawn) batch_.Add(PenOf(feed), {start.x, start.y, x, y});
   state_.X = x;
   state_.Y = y;
   state_.Extents.CheckExtents(x, y);
-  EndMove(start, pen.has_value());
+  if (current_ && drawn) MarkEnds(start);
+  if (options_.click) CheckDistance(start);
 }
 
 void Pass::MoveRelative(float dx, float dy, bool feed) {
@@ -94,22 +96,24 @@ void Pass::MoveTurn(const Statement& statement) {
 }
 
 void Pass::DrawArc(const ArcPath& path) {
+  if (!toolExists_) throw common::RunTimeError(common::kSubscriptOutOfRange);
   const Point start = {state_.X, state_.Y};
-  const platform::Pen pen = PenOf(true).value_or(platform::Pen());
+  const platform::Pen pen = PenOf(true);
   WalkArc(path, [&](Point to) {
     batch_.Add(pen, {state_.X, state_.Y, to.x, to.y});
     state_.X = to.x;
     state_.Y = to.y;
     state_.Extents.CheckExtents(to.x, to.y);
   });
-  EndMove(start, true);
+  if (current_) MarkEnds(start);
+  if (options_.click) CheckDistance(start);
 }
 
 void Pass::SetState(const Statement& statement) {
   switch (statement.word) {
     case Word::Tool:
       state_.Tool = static_cast<std::int16_t>(statement.x);
-      return;
+      return SetPens();
     case Word::OutputOn:
     case Word::OutputOff:
       if (statement.x < 1) return;
@@ -117,7 +121,7 @@ void Pass::SetState(const Statement& statement) {
       return;
     case Word::VelocityPercent:
       state_.VelocityPercent = static_cast<std::int16_t>(statement.x);
-      return SetFeedWidth();
+      return SetPens();
     case Word::FeedSpeed:
       state_.FeedSpeed = statement.x;
       return;
@@ -132,12 +136,26 @@ void Pass::SetState(const Statement& statement) {
   }
 }
 
-void Pass::SetFeedWidth() {
-  feedWidth_ = viewer_.wideFeeds ? std::max(1, options_.settings.lineWidth) : 1;
-  if (!options_.velocityWidth || (viewer_.words & Bit(Word::VelocityPercent)) == 0) return;
+// Made when the tool or the velocity changes, not for each move.
+void Pass::SetPens() {
+  rapidPen_ = {viewer_.settingsPens ? options_.settings.rapid : kSmallRapid, 1};
+  feedPen_ = {viewer_.settingsPens ? options_.settings.feed : kSmallFeed, FeedWidth()};
+  toolExists_ = true;
+  if (!ToolShown()) {
+    rapidPen_.color = feedPen_.color = options_.settings.background;
+  } else if (viewer_.toolColors) {
+    toolExists_ = state_.Tool >= 1 && state_.Tool <= kToolCount;
+    if (toolExists_) feedPen_.color = ToolColor(state_.Tool);
+  }
+}
+
+int Pass::FeedWidth() const {
+  if (!viewer_.wideFeeds) return 1;
+  if (!options_.velocityWidth || (viewer_.words & Bit(Word::VelocityPercent)) == 0) {
+    return std::max(1, options_.settings.lineWidth);
+  }
   if (state_.VelocityPercent == 0) throw common::RunTimeError(common::kDivisionByZero);
-  const double width = *options_.velocityWidth * 100.0 / state_.VelocityPercent;
-  feedWidth_ = std::max(1, common::ToInt32(width));
+  return std::max(1, common::ToInt32(*options_.velocityWidth * 100.0 / state_.VelocityPercent));
 }
 
 bool Pass::ToolShown() const {
@@ -145,17 +163,8 @@ bool Pass::ToolShown() const {
   return state_.Tool == options_.shownTool && state_.Tool >= 1 && state_.Tool <= kToolCount;
 }
 
-// The pen of a move, or nothing for a rapid that is not to be seen.
-std::optional<platform::Pen> Pass::PenOf(bool feed) const {
-  if (!feed && !options_.showRapids) return std::nullopt;
-  platform::Pen pen{options_.settings.rapid, 1};
-  if (feed) pen = {options_.settings.feed, feedWidth_};
-  if (!viewer_.settingsPens) pen.color = feed ? kSmallFeed : kSmallRapid;
-  if (!ToolShown()) {
-    pen.color = options_.settings.background;
-  } else if (viewer_.toolColors && feed) {
-    pen.color = ToolColor(state_.Tool);
-  }
+platform::Pen Pass::PenOf(bool feed) const {
+  platform::Pen pen = feed ? feedPen_ : rapidPen_;
   if (current_) pen.color = options_.settings.current;
   return pen;
 }
@@ -170,16 +179,14 @@ void Pass::Cross(float x, float y, platform::Color color) {
   batch_.Add({color, 1}, {x, y - arm, x, y + arm});
 }
 
-// What follows a move from `start` to the position that is current now.
-void Pass::EndMove(Point start, bool drawn) {
-  const Point end = {state_.X, state_.Y};
-  if (current_ && drawn) {
-    Cross(start.x, start.y, MarkColor());
-    Cross(end.x, end.y, MarkColor());
-  }
-  if (!options_.click) return;
-  for (const Point& point : {start, end}) {
-    const float distance = SegmentLength(point.x, point.y, options_.click->x, options_.click->y);
+void Pass::MarkEnds(Point start) {
+  Cross(start.x, start.y, MarkColor());
+  Cross(state_.X, state_.Y, MarkColor());
+}
+
+void Pass::CheckDistance(Point start) {
+  for (const Point& end : {start, Point{state_.X, state_.Y}}) {
+    const float distance = SegmentLength(end.x, end.y, options_.click->x, options_.click->y);
     if (distance >= state_.NearestDistance) continue;
     state_.NearestDistance = distance;
     state_.NearestLine = line_;

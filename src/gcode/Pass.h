@@ -72,17 +72,21 @@ class Pass {
   void DrawArc(const ArcPath& path);
   void SetState(const Statement& statement);
   bool ToolShown() const;
-  std::optional<platform::Pen> PenOf(bool feed) const;
-  void SetFeedWidth();
+  void SetPens();
+  int FeedWidth() const;
+  platform::Pen PenOf(bool feed) const;
   void Cross(float x, float y, platform::Color color);
-  void EndMove(Point start, bool drawn);
+  void MarkEnds(Point start);
+  void CheckDistance(Point start);
   platform::Color MarkColor() const;
 
   const PassOptions& options_;
   const ViewerOptions& viewer_;
   LineBatch batch_;
   PassState state_;
-  int feedWidth_ = 1;
+  platform::Pen rapidPen_;
+  platform::Pen feedPen_;
+  bool toolExists_ = true;  // else a feed of it fails
   std::uint32_t line_ = 0;
   bool current_ = false;  // the statement in hand is the current line
 };

@@ -7,40 +7,45 @@
 namespace morvane::gcode {
 namespace {
 
-// Takes numbers from a text that is cut at letters. No letter of the dialect can be part of a number, so
-// reading a number as far as it goes gives the same as reading the part in front of the letter.
+// Takes numbers from a line that is cut at letters. No letter of the dialect can be part of a number, so
+// reading a number as far as it goes gives the same as reading the part in front of the letter. The line
+// ends at a line end or with the text.
 class Cutter {
  public:
-  Cutter(std::string_view text, bool fold) : text_(text), fold_(fold) {}
+  Cutter(std::string_view text, std::size_t start, bool fold) : text_(text), position_(start), fold_(fold) {}
 
   // The number in front of `letter`; the text behind the letter is next. Without the letter the number
   // is read all the same and nothing is left, so no later letter is found either.
   float Take(char letter) {
-    std::size_t end = 0;
-    const float value = common::ToSingle(common::ParseNumber(text_, end));
-    const std::size_t at = Find(letter, end);
-    found_ = at != std::string_view::npos;
-    text_ = found_ ? text_.substr(at + 1) : std::string_view();
+    const float value = Rest();
+    found_ = false;
+    for (; !found_ && position_ < text_.size() && !IsLineEnd(text_[position_]); ++position_) {
+      found_ = Fold(text_[position_]) == letter;
+    }
     return value;
   }
-  float Rest() const { return common::ParseSingle(text_); }
-  char First() const { return text_.empty() ? '\0' : text_.front(); }
+  // The number that begins here.
+  float Rest() {
+    std::size_t length = 0;
+    const float value = common::ToSingle(common::ParseNumber(text_.substr(position_), length));
+    position_ += length;
+    return value;
+  }
+  char First() const { return position_ < text_.size() ? text_[position_] : '\0'; }
   bool Found() const { return found_; }
+  std::size_t Position() const { return position_; }
 
  private:
-  std::size_t Find(char letter, std::size_t from) const {
-    if (from < text_.size() && text_[from] == letter) return from;
-    if (!fold_) return text_.find(letter, from);
-    const char letters[] = {letter, static_cast<char>(letter - 'A' + 'a')};
-    return text_.find_first_of(std::string_view(letters, sizeof letters), from);
-  }
+  static bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+  char Fold(char c) const { return fold_ && c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
   std::string_view text_;
+  std::size_t position_;
   bool fold_;
   bool found_ = false;
 };
 
-void ReadMove(Cutter cutter, Statement& statement) {
+void ReadMove(Cutter& cutter, Statement& statement) {
   statement.x = cutter.Take('Y');
   statement.hasX = true;
   if (!cutter.Found()) return;
@@ -50,26 +55,26 @@ void ReadMove(Cutter cutter, Statement& statement) {
   if (statement.hasZ) statement.cx = cutter.Rest();
 }
 
-void ReadRapid(Cutter cutter, Statement& statement) {
+void ReadRapid(Cutter& cutter, Statement& statement) {
   ReadMove(cutter, statement);
 }
 
-void ReadFeed(Cutter cutter, Statement& statement) {
+void ReadFeed(Cutter& cutter, Statement& statement) {
   statement.feed = true;
   ReadMove(cutter, statement);
 }
 
-void ReadRapidY(Cutter cutter, Statement& statement) {
+void ReadRapidY(Cutter& cutter, Statement& statement) {
   statement.y = cutter.Rest();
   statement.hasY = true;
 }
 
-void ReadFeedY(Cutter cutter, Statement& statement) {
+void ReadFeedY(Cutter& cutter, Statement& statement) {
   statement.feed = true;
   ReadRapidY(cutter, statement);
 }
 
-void ReadCounterClockwise(Cutter cutter, Statement& statement) {
+void ReadCounterClockwise(Cutter& cutter, Statement& statement) {
   statement.feed = true;
   statement.x = cutter.Take('Y');
   statement.y = cutter.Take('I');
@@ -78,12 +83,12 @@ void ReadCounterClockwise(Cutter cutter, Statement& statement) {
   statement.cy = cutter.Rest();
 }
 
-void ReadClockwise(Cutter cutter, Statement& statement) {
+void ReadClockwise(Cutter& cutter, Statement& statement) {
   statement.clockwise = true;
   ReadCounterClockwise(cutter, statement);
 }
 
-void ReadTurn(Cutter cutter, Statement& statement) {
+void ReadTurn(Cutter& cutter, Statement& statement) {
   statement.feed = true;
   statement.x = cutter.Take('I');
   statement.cx = cutter.Take('J');
@@ -91,21 +96,21 @@ void ReadTurn(Cutter cutter, Statement& statement) {
   statement.broken = !cutter.Found();
 }
 
-void ReadWholeNumber(Cutter cutter, Statement& statement) {
+void ReadWholeNumber(Cutter& cutter, Statement& statement) {
   statement.x = common::ToInt16(cutter.Rest());
 }
 
-void ReadNumber(Cutter cutter, Statement& statement) {
+void ReadNumber(Cutter& cutter, Statement& statement) {
   statement.x = cutter.Rest();
 }
 
 // The number of an output is the one digit behind the letter; 0 stands for none.
-void ReadOutput(Cutter cutter, Statement& statement) {
+void ReadOutput(Cutter& cutter, Statement& statement) {
   const char digit = cutter.First();
   if (digit >= '1' && digit <= '8') statement.x = static_cast<float>(digit - '0');
 }
 
-void ReadNothing(Cutter, Statement&) {}
+void ReadNothing(Cutter&, Statement&) {}
 
 // The first characters of a line in one word, so that a test is one comparison.
 constexpr std::uint32_t Pack(std::string_view text, bool fold) {
@@ -123,10 +128,10 @@ struct Entry {
   std::uint32_t mask;
   std::size_t length;
   Word word;
-  void (*read)(Cutter, Statement&);
+  void (*read)(Cutter&, Statement&);
 };
 
-constexpr Entry Begins(std::string_view text, Word word, void (*read)(Cutter, Statement&)) {
+constexpr Entry Begins(std::string_view text, Word word, void (*read)(Cutter&, Statement&)) {
   return {Pack(text, false), ~std::uint32_t{0} << (8 * (4 - text.size())), text.size(), word, read};
 }
 
@@ -146,12 +151,20 @@ constexpr Entry kEntries[] = {
 }  // namespace
 
 Statement ParseStatement(std::string_view line, bool foldToCapitals) {
+  std::size_t used = 0;
+  return ParseStatement(line, foldToCapitals, used);
+}
+
+Statement ParseStatement(std::string_view text, bool foldToCapitals, std::size_t& used) {
   Statement statement;
-  const std::uint32_t start = Pack(line, foldToCapitals);
+  used = 0;
+  const std::uint32_t start = Pack(text, foldToCapitals);
   for (const Entry& entry : kEntries) {
     if ((start & entry.mask) != entry.start) continue;
     statement.word = entry.word;
-    entry.read(Cutter(line.substr(entry.length), foldToCapitals), statement);
+    Cutter cutter(text, entry.length, foldToCapitals);
+    entry.read(cutter, statement);
+    used = cutter.Position();
     break;
   }
   return statement;

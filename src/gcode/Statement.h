@@ -1,6 +1,7 @@
 // One statement of a G-code job, as every reader of the program sees it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -39,8 +40,11 @@ struct Statement {
   bool broken : 1 = false;
 };
 
-// Reads a line without its line end. With `foldToCapitals` small letters count as capitals. Never
-// fails: what is no statement is Unknown, numbers that are missing read as 0.
+// Reads a line. With `foldToCapitals` small letters count as capitals. Never fails: what is no statement
+// is Unknown, numbers that are missing read as 0.
 Statement ParseStatement(std::string_view line, bool foldToCapitals = false);
+// The same at the start of a text that goes on behind the line. The first `used` characters were looked
+// at and hold no line end.
+Statement ParseStatement(std::string_view text, bool foldToCapitals, std::size_t& used);
 
 }  // namespace morvane::gcode
