@@ -1,0 +1,16 @@
+#include "common/SettingDefaults.h"
+
+#include <algorithm>
+
+#include "common/Numbers.h"
+
+namespace morvane::common {
+
+std::uint32_t ReadColor(const SettingsSnapshot& settings, int index) {
+  constexpr std::int32_t kWhite = 0xFFFFFF;
+  const std::string text =
+      settings.Get(kSettingsSection, "Color" + PlainNumber(std::int32_t{index}), kColorDefaults[index]);
+  return static_cast<std::uint32_t>(std::clamp(ParseInt32(text), 0, kWhite));
+}
+
+}  // namespace morvane::common

@@ -1,0 +1,15 @@
+// Defaults that several readers of the settings share.
+#pragma once
+
+#include "common/Settings.h"
+
+namespace morvane::common {
+
+// Draw cyan, selected red, tool path green, grid white, background black, reference yellow.
+inline constexpr const char* kColorDefaults[] = {"16776960", "255", "65280", "16777215", "0", "65535"};
+inline constexpr int kColorCount = 6;
+
+// `Color<index>` as blue x 65536 + green x 256 + red, held to 24 bits; `index` is 0 to 5.
+std::uint32_t ReadColor(const SettingsSnapshot& settings, int index);
+
+}  // namespace morvane::common
