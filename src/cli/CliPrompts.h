@@ -1,0 +1,33 @@
+// Boxes on the command line: told on standard error, answered by --yes or --no.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Prompts.h"
+
+namespace morvane::cli {
+
+class CliPrompts : public platform::Prompts {
+ public:
+  explicit CliPrompts(bool yes) : yes_(yes) {}
+
+  platform::Answer MsgBox(const std::string& text, platform::Buttons buttons,
+                          const std::string& title) override;
+  // Nothing can be typed or chosen here: these act as if cancelled.
+  std::optional<std::string> InputBox(const std::string& prompt, const std::string& title,
+                                      const std::string& preset) override;
+  std::string OpenFile(const platform::FileDialogRequest& request) override;
+  std::string SaveFile(const platform::FileDialogRequest& request) override;
+  std::vector<std::string> OpenFiles(const platform::FileDialogRequest& request) override;
+  std::string ChooseFolder(const std::string& title, const std::string& directory) override;
+  std::optional<std::uint32_t> ChooseColor(std::uint32_t preset) override;
+  std::string PickOne(const std::string& title, const std::vector<std::string>& entries) override;
+  std::vector<std::string> PickMany(const std::string& title,
+                                    const std::vector<std::string>& entries) override;
+
+ private:
+  bool yes_;
+};
+
+}  // namespace morvane::cli

@@ -1,0 +1,39 @@
+// The command line: the core without windows, for scripts, plants and checks.
+#include <QGuiApplication>
+#include <iostream>
+
+#include "cli/Commands.h"
+#include "cli/GlobalArguments.h"
+#include "common/RunTimeError.h"
+#include "common/Text.h"
+
+namespace {
+
+using namespace morvane;
+
+int Run(std::vector<std::string> arguments, const std::string& programDirectory) {
+  const cli::GlobalOptions options = cli::TakeGlobalOptions(arguments);
+  const cli::Command* command = cli::TakeCommand(arguments);
+  if (!command) throw cli::UsageError();
+  cli::Environment environment(options, programDirectory);
+  try {
+    return command->run(environment, arguments);
+  } catch (const common::RunTimeError& error) {
+    environment.prompts.MsgBox(error.description(), platform::Buttons::Ok, platform::kApplicationTitle);
+    return cli::kFailed;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Pictures with text need the toolkit's fonts, but never a display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  try {
+    return Run({argv + 1, argv + argc}, QCoreApplication::applicationDirPath().toStdString());
+  } catch (const cli::UsageError&) {
+    std::cerr << cli::UsageText();
+    return cli::kWrongUsage;
+  }
+}
