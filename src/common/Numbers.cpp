@@ -100,6 +100,11 @@ double ParseNumber(std::string_view text, std::size_t& end) {
   const char* const start = text.data();
   const char* const last = start + text.size();
   const char* p = start;
+  // Most fields of a file are one digit.
+  if (text.size() == 1 && IsDigit(*p)) {
+    end = 1;
+    return *p - '0';
+  }
   end = 0;
   while (p != last && IsBlank(*p)) ++p;
   if (last - p >= 2 && *p == '&' && (p[1] == 'H' || p[1] == 'h')) {

@@ -138,7 +138,7 @@ PreviewResult DrawJob(const PreviewSources& sources, const PreviewRequest& reque
 std::vector<bool> SelectedLines(const std::string& selection, std::size_t count) {
   std::vector<bool> selected(count, false);
   for (const std::string& token : common::SplitText(selection, ",")) {
-    const std::int32_t index = common::ParseInt32(token);
+    const std::int32_t index = common::IsNumeric(token) ? common::ParseInt32(token) : -1;
     if (index >= 0 && static_cast<std::size_t>(index) < count)
       selected[static_cast<std::size_t>(index)] = true;
   }

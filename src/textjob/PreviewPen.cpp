@@ -5,9 +5,7 @@
 namespace morvane::textjob {
 
 PreviewPen::PreviewPen(platform::Canvas& canvas, PreviewState& state, const PenOptions& options)
-    : canvas_(canvas), state_(state), options_(options) {
-  batch_.reserve(kBatch);
-}
+    : canvas_(canvas), state_(state), options_(options) {}
 
 platform::Canvas& PreviewPen::Surface() {
   Flush();
@@ -15,9 +13,9 @@ platform::Canvas& PreviewPen::Surface() {
 }
 
 void PreviewPen::Flush() {
-  if (!batch_.empty() && pieces_ < kMaxPieces) canvas_.Lines(pen_, batch_.data(), batch_.size());
-  pieces_ += batch_.size();
-  batch_.clear();
+  if (count_ > 0 && pieces_ < kMaxPieces) canvas_.Lines(pen_, batch_.data(), count_);
+  pieces_ += count_;
+  count_ = 0;
 }
 
 void PreviewPen::Start(const platform::Pen& pen) {

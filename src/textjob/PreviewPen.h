@@ -55,9 +55,13 @@ class PreviewPen {
   void HitTest(float x1, float y1, float x2, float y2);
   // A line that is no part of the job: hit by nothing, repeated nowhere.
   void Add(const platform::Pen& pen, const platform::Segment& segment) {
-    if (!(pen == pen_) || batch_.size() == kBatch) Start(pen);
-    batch_.push_back(segment);
+    if (!(pen == pen_) || count_ == kBatch) Start(pen);
+    batch_[count_++] = segment;
   }
+  // Strokes of a character: pen-up to the start of each that does not begin where the last one ended,
+  // then pen-down to its end. `place` turns a point of the cell into one of the job.
+  template <typename Strokes, typename Place>
+  void Draw(const Strokes& strokes, const Place& place, platform::Color color);
   void Flush();
 
  private:
@@ -77,8 +81,37 @@ class PreviewPen {
   PenOptions options_;
   int line_ = -1;
   platform::Pen pen_;
-  std::vector<platform::Segment> batch_;
+  std::vector<platform::Segment> batch_{kBatch};
+  std::size_t count_ = 0;
   std::size_t pieces_ = 0;
 };
+
+template <typename Strokes, typename Place>
+void PreviewPen::Draw(const Strokes& strokes, const Place& place, platform::Color color) {
+  // Most passes only mark: then nothing but the points is looked at.
+  const bool plain = !options_.showToolPath && !options_.search && !options_.grid;
+  const platform::Pen pen{color, options_.lineWidth};
+  if (plain && (!(pen == pen_) || count_ + strokes.size() > kBatch)) Start(pen);
+  float x = 0;
+  float y = 0;
+  for (std::size_t i = 0; i < strokes.size(); ++i) {
+    const auto& stroke = strokes[i];
+    if (i == 0 || stroke.X1 != strokes[i - 1].X2 || stroke.Y1 != strokes[i - 1].Y2) {
+      const auto start = place(stroke.X1, stroke.Y1);
+      x = start.x;
+      y = start.y;
+      if (!plain) PenMove(x, y, color, false);
+    }
+    const auto end = place(stroke.X2, stroke.Y2);
+    if (plain) {
+      batch_[count_++] = {x, y, end.x, end.y};
+    } else {
+      PenMove(end.x, end.y, color, true);
+    }
+    x = end.x;
+    y = end.y;
+  }
+  if (!strokes.empty()) Put(x, y);
+}
 
 }  // namespace morvane::textjob

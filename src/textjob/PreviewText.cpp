@@ -32,7 +32,7 @@ Cell CellOf(const TextDrawing& drawing) {
 }
 
 // Where a character's cell stands, and the turn of its points: counter-clockwise on the display about a
-// pivot, as a matrix, since the angle is the same for all points of the character.
+// pivot. One matrix serves all points of the character, since they turn by the same angle.
 struct Placement {
   double left = 0;
   double top = 0;
@@ -44,11 +44,16 @@ struct Placement {
     cosine = std::cos(degrees * kRadiansPerDegree);
     sine = std::sin(degrees * kRadiansPerDegree);
   }
-  Point Place(float x, float y, const Cell& cell) const {
-    const double dx = double{x} * cell.width + left - pivot.x;
-    const double dy = double{y} * cell.height + top - pivot.y;
-    return {static_cast<float>(pivot.x + dx * cosine + dy * sine),
-            static_cast<float>(pivot.y + dy * cosine - dx * sine)};
+
+  auto Matrix(const Cell& cell) const {
+    const double dx = left - pivot.x;
+    const double dy = top - pivot.y;
+    const double x = pivot.x + dx * cosine + dy * sine;
+    const double y = pivot.y + dy * cosine - dx * sine;
+    return [x, y, xx = cell.width * cosine, xy = cell.height * sine, yx = -cell.width * sine,
+            yy = cell.height * cosine](float atX, float atY) {
+      return Point{static_cast<float>(x + atX * xx + atY * xy), static_cast<float>(y + atX * yx + atY * yy)};
+    };
   }
 };
 
@@ -121,7 +126,7 @@ class TextRun {
       const std::size_t i = IndexOf(n, forward);
       const auto& glyph = Glyph(i, forward);
       if (glyph.empty()) continue;
-      const Point first = layout.Of(i).Place(glyph[0].X1, glyph[0].Y1, cell_);
+      const Point first = layout.Of(i).Matrix(cell_)(glyph[0].X1, glyph[0].Y1);
       return std::hypot(first.x - pen.X(), first.y - pen.Y());
     }
     return 0;
@@ -132,7 +137,7 @@ class TextRun {
     for (std::size_t n = 0; n < drawing_.text.size(); ++n) {
       const std::size_t i = IndexOf(n, forward);
       const auto& glyph = Glyph(i, forward);
-      if (!glyph.empty()) DrawCharacter(glyph, layout.Of(i), pen);
+      if (!glyph.empty()) pen.Draw(glyph, layout.Of(i).Matrix(cell_), drawing_.color);
     }
   }
 
@@ -153,20 +158,6 @@ class TextRun {
 
   const std::vector<FontSegment>& Glyph(std::size_t i, bool forward) {
     return glyphs_.Get(static_cast<unsigned char>(drawing_.text[i]), forward, cell_.wide);
-  }
-
-  void DrawCharacter(const std::vector<FontSegment>& glyph, const Placement& placement,
-                     PreviewPen& pen) const {
-    const FontSegment* last = nullptr;
-    for (const FontSegment& segment : glyph) {
-      if (!last || segment.X1 != last->X2 || segment.Y1 != last->Y2) {
-        const Point start = placement.Place(segment.X1, segment.Y1, cell_);
-        pen.PenMove(start.x, start.y, drawing_.color, false);
-      }
-      const Point end = placement.Place(segment.X2, segment.Y2, cell_);
-      pen.PenMove(end.x, end.y, drawing_.color, true);
-      last = &segment;
-    }
   }
 
   const TextDrawing& drawing_;

@@ -18,8 +18,6 @@ constexpr const char* kInput = "in.txt";
 constexpr const char* kOutput = "out.txt";
 constexpr std::uint64_t kMaxInput = 1024 * 1024;  // bytes; far more than any symbol holds
 constexpr const char* kLineEnd = "\r\n";
-// Rows are read field by field, and a field without quotes loses its leading blanks.
-constexpr const char* kRowQuote = "\"";
 
 std::string ReadContent(const common::Files& files) {
   // Asked before reading, since a huge file would fill the memory.
@@ -38,7 +36,7 @@ std::string Encode(const common::Files& files, int argumentCount, char** argumen
   std::string out;
   const std::string size = argumentCount == 2 ? arguments[1] : "Automatic";
   for (const std::string& row : sqrgen::MakeSymbol(ReadContent(files), size)) {
-    out += kRowQuote + row + kRowQuote + kLineEnd;
+    out += row + kLineEnd;
   }
   return out;
 }

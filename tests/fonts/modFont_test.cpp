@@ -1,0 +1,156 @@
+#include "fonts/modFont.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "common/RunTimeError.h"
+#include "fonts/GlyphCache.h"
+#include "support/FakeFileSystem.h"
+#include "support/FakePrompts.h"
+
+namespace morvane::fonts {
+namespace {
+
+using Segments = std::vector<FontSegment>;
+
+std::string Show(const Segments& segments) {
+  std::ostringstream out;
+  for (const FontSegment& s : segments) out << s.X1 << ' ' << s.Y1 << ' ' << s.X2 << ' ' << s.Y2 << ';';
+  return out.str();
+}
+
+TEST(Font, CharactersForwardBackwardAndWide) {
+  const struct {
+    const char* line;
+    bool forward;
+    float width;
+    const char* segments;
+  } cases[] = {
+      {"", true, 0, ""},
+      {"65:", true, 1, ""},
+      {"65:0.5,0.000,0.5,1", true, 0, "0.5 0 0.5 1;"},
+      {"65:1,2,3,4;3,4,5,6", true, 0, "1 2 3 4;3 4 5 6;"},
+      {"65:1,2,3,4;3,4,5,6;", false, 0, "5 6 3 4;3 4 1 2;"},
+      {"65:.5,0,.5,1", true, .1F, "0.5 0 0.5 1;"},
+      {"65:.25,0,.5,1;.5,1,.75,0", true, 2, "0 0 0.5 1;0.5 1 1 0;"},
+      {"65:-1,0,1,1", true, 1, "0.5 0 0.5 1;"},
+      {"65:0,x,1e0,1;;9,9,9,9", true, 0, "0 0 1 1;0 9 9 9;"},
+      {"65:-0.25,-0.5", true, 0, "-0.25 -0.5 0 0;"},
+      {"66:1,1,1,1", true, 0, "1 1 1 1;"},
+  };
+  FontTable table;
+  for (const auto& c : cases) {
+    table.FontChars[65] = c.line;
+    Segments segments(3);
+    loadFontChar(table, 65, segments, c.forward, c.width);
+    EXPECT_EQ(Show(segments), c.segments) << c.line;
+  }
+  table.FontChars[65] = "A:0,0,1,1";
+  Segments segments;
+  EXPECT_THROW(loadFontChar(table, 65, segments, true, 0), common::RunTimeError);
+  EXPECT_THROW(loadFontChar(table, 256, segments, true, 0), common::RunTimeError);
+  std::string many = "65:";
+  for (int i = 0; i < 300; ++i) many += "0,0,1,1;";
+  table.FontChars[65] = many;
+  loadFontChar(table, 65, segments, true, 0);
+  EXPECT_EQ(segments.size(), 257U);
+}
+
+TEST(Font, TheViewersScannerReportsTheCodeNumber) {
+  Segments segments;
+  EXPECT_TRUE(ReadFontLine("65:1,2,3,4;3,4,5,6;", 65, segments));
+  EXPECT_EQ(Show(segments), "1 2 3 4;3 4 5 6;");
+  EXPECT_FALSE(ReadFontLine("66:1,2,3,4", 65, segments));
+  EXPECT_TRUE(ReadFontLine("65", 65, segments));
+  EXPECT_TRUE(segments.empty());
+  std::size_t position = 0;
+  std::size_t end = 0;
+  std::string token;
+  getToken("a,b", position, end, ",", token);
+  EXPECT_EQ(token + std::to_string(end) + std::to_string(position), "a12");
+  getToken("a,b", position, end, ",", token);
+  EXPECT_EQ(token, "b");
+  EXPECT_EQ(position, std::string::npos);
+  EXPECT_EQ(end, std::string::npos);
+}
+
+class FontFile : public testing::Test {
+ protected:
+  bool Load(const std::string& name) { return LoadFont(table, name, FontOrigin::Document, files, prompts); }
+
+  test::FakeFileSystem fileSystem{"/base"};
+  common::Files files{fileSystem, "/base"};
+  test::FakePrompts prompts;
+  FontTable table;
+};
+
+TEST_F(FontFile, SpellingsAndOldEntries) {
+  fileSystem.Put("/base/Font1.fnt", "1:\r\n2:old\r\n3:stays\r\n");
+  fileSystem.Put("/base/FONT2.FNT", "1:new\r\n2:\r\n");
+  for (const char* name : {"FONT1.FNT", "font1.fnt", "FONT1", "FONT1.XYZ"}) EXPECT_TRUE(Load(name)) << name;
+  EXPECT_TRUE(Load("font2"));
+  EXPECT_EQ(table.FontName, "font2");
+  EXPECT_EQ(table.FontChars[1], "1:new");
+  EXPECT_EQ(table.FontChars[2], "2:");
+  EXPECT_EQ(table.FontChars[3], "3:stays");
+  EXPECT_TRUE(prompts.boxes.empty());
+}
+
+TEST_F(FontFile, FailuresKeepTheNewNameAndTheOldEntries) {
+  fileSystem.Put("/base/A.FNT", "1:a\r\n");
+  fileSystem.Put("/secret.fnt", "1:secret\r\n");
+  Load("A.FNT");
+  EXPECT_FALSE(Load("B.FNT"));
+  EXPECT_FALSE(Load("..\\SECRET.FNT"));
+  EXPECT_EQ(table.FontName, "..\\SECRET.FNT");
+  EXPECT_EQ(table.FontChars[1], "1:a");
+  fileSystem.faults.bytesLeft = 5;
+  EXPECT_FALSE(SaveFont(table, "A.FNT", files, prompts));
+  EXPECT_EQ(prompts.Texts(), (std::vector<std::string>{"Font File Error: File not found", "Disk full"}));
+}
+
+TEST_F(FontFile, RoundTripOf255Lines) {
+  std::string bytes;
+  for (int code = 1; code <= 255; ++code) bytes += std::to_string(code) + ":0,0,1,1\r\n";
+  fileSystem.Put("/base/A.FNT", bytes + "256:behind\r\n");
+  ASSERT_TRUE(Load("A.FNT"));
+  EXPECT_EQ(table.FontChars[0], "");
+  ASSERT_TRUE(SaveFont(table, "B.FNT", files, prompts));
+  EXPECT_EQ(fileSystem.Get("/base/B.FNT"), bytes);
+}
+
+TEST_F(FontFile, TheGlyphCacheFollowsTheTable) {
+  GlyphCache glyphs(table);
+  ReadFont("1:0,0,1,1\n", table);
+  EXPECT_EQ(Show(glyphs.Get(1, true, false)), "0 0 1 1;");
+  EXPECT_EQ(Show(glyphs.Get(1, false, false)), "1 1 0 0;");
+  ReadFont("1:2,2,3,3\n", table);
+  EXPECT_EQ(Show(glyphs.Get(1, true, false)), "2 2 3 3;");
+}
+
+// The fonts that come with the program are complete and stay inside what the preview expects.
+TEST(StationFonts, EveryLineIsItsCharacter) {
+  for (const char* name : {"FONT1.fnt", "FONT2.fnt"}) {
+    std::ifstream in(std::string(MORVANE_SOURCE_DIR "/station/") + name, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    FontTable table;
+    ReadFont(bytes.str(), table);
+    for (int code = 1; code < kFontCodes; ++code) {
+      Segments segments;
+      ASSERT_TRUE(ReadFontLine(table.FontChars[static_cast<std::size_t>(code)], code, segments))
+          << name << code;
+      const bool visible = (code > 32 && code < 127) || code > 160;
+      EXPECT_EQ(visible && segments.empty(), false) << name << ' ' << code;
+      for (const FontSegment& s : segments) {
+        EXPECT_TRUE(s.X1 >= 0 && s.X1 <= 1 && s.Y1 >= -0.5F && s.Y1 <= 1.5F) << name << ' ' << code;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace morvane::fonts

@@ -1,0 +1,434 @@
+#include "textjob/Preview.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "support/PreviewStation.h"
+
+namespace morvane::textjob {
+namespace {
+
+using platform::Segment;
+
+constexpr platform::Color kCyan = 16776960;
+constexpr platform::Color kRed = 255;
+constexpr platform::Color kGreen = 65280;
+constexpr platform::Color kWhite = 16777215;
+constexpr platform::Color kYellow = 65535;
+
+// A corner character: down the left side, then along the baseline; "|" is one stroke.
+constexpr const char* kLetters[] = {"76:0,0,0,1;0,1,1,1", "124:0.5,0,0.5,1"};
+
+class Preview : public testing::Test {
+ protected:
+  Preview() {
+    std::string font;
+    for (int code = 1; code <= 255; ++code) {
+      std::string line = std::to_string(code) + ":";
+      for (const std::string letter : kLetters) {
+        if (letter.compare(0, line.size(), line) == 0) line = letter;
+      }
+      font += line + "\r\n";
+    }
+    station.Put("F.FNT", font);
+  }
+
+  // Segments of one pen, in drawing order.
+  std::vector<Segment> Lines(platform::Color color, int width) const {
+    std::vector<Segment> found;
+    for (const auto& run : station.canvas.Runs()) {
+      if (run.kind != platform::RecordingCanvas::Kind::Lines || !(run.pen == platform::Pen{color, width}))
+        continue;
+      for (std::uint32_t i = 0; i < run.count; ++i) found.push_back(station.canvas.Segments()[run.first + i]);
+    }
+    return found;
+  }
+
+  static void ExpectLines(const std::vector<Segment>& drawn, const std::vector<Segment>& expected) {
+    ASSERT_EQ(drawn.size(), expected.size());
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+      EXPECT_NEAR(drawn[i].x1, expected[i].x1, 2e-6) << i;
+      EXPECT_NEAR(drawn[i].y1, expected[i].y1, 2e-6) << i;
+      EXPECT_NEAR(drawn[i].x2, expected[i].x2, 2e-6) << i;
+      EXPECT_NEAR(drawn[i].y2, expected[i].y2, 2e-6) << i;
+    }
+  }
+
+  test::PreviewStation station;
+};
+
+// Position (1, 2), height 0.5: style, angle, radius, text, compress, then the rest of the line.
+std::string TextLine(const std::string& style, const std::string& text, const std::string& behind) {
+  return "0,1,2,0.5,F.fnt," + style + ',' + text + "@@," + behind;
+}
+
+TEST_F(Preview, TextIsStrokedFromTheNearerEnd) {
+  station.Draw({TextLine("0,0,0,0", "LL", "1")});
+  ExpectLines(Lines(kCyan, 2),
+              {{1, 2, 1, 2.5F}, {1, 2.5F, 1.5F, 2.5F}, {1.5F, 2, 1.5F, 2.5F}, {1.5F, 2.5F, 2, 2.5F}});
+  // The pen stands at (2, 2.5) now, so the same text runs backward.
+  station.Draw({TextLine("0,0,0,0", "LL", "1")});
+  ExpectLines(Lines(kCyan, 2),
+              {{2, 2.5F, 1.5F, 2.5F}, {1.5F, 2.5F, 1.5F, 2}, {1.5F, 2.5F, 1, 2.5F}, {1, 2.5F, 1, 2}});
+  EXPECT_EQ(station.state.PenX, 1);
+  EXPECT_EQ(station.state.PenY, 2);
+  // As near to both ends: forward.
+  station.state.PenX = 1.25F;
+  station.Draw({TextLine("0,0,0,0", "||", "0.5")});
+  ExpectLines(Lines(kCyan, 2), {{1.125F, 2, 1.125F, 2.5F}, {1.375F, 2, 1.375F, 2.5F}});
+}
+
+TEST_F(Preview, JustificationAngleAndProFonts) {
+  const struct {
+    const char* name;
+    const char* proFonts;
+    std::string line;
+    Segment first;
+  } cases[] = {
+      {"center",
+       "0",
+       TextLine("0,0,0,0", "||", "0.5,1,1,0,1,@@,0,0,0,0,0,0,0,0,0,0,9"),
+       {0.875F, 2, 0.875F, 2.5F}},
+      {"right", "0", TextLine("0,0,0,0", "||", "0.5,1,1,0,2"), {0.625F, 2, 0.625F, 2.5F}},
+      {"center, wide",
+       "1",
+       TextLine("0,0,0,0", "||", "1,1,1,0,1,@@,1,1,0,0,0,0,0,0,0,1,0.2,0,0,0.1"),
+       {0.85F, 2, 0.85F, 2.5F}},
+      {"right, wide",
+       "1",
+       TextLine("0,0,0,0", "||", "1,1,1,0,2,@@,1,1,0,0,0,0,0,0,0,1,0.2,0,0,0.1"),
+       {0.6F, 2, 0.6F, 2.5F}},
+      {"a quarter turn", "0", TextLine("2,0,90,0", "||", "1"), {1.5F, 1.25F, 1, 1.25F}},
+      {"regular turns too", "0", TextLine("0,0,-90,0", "||", "1"), {1, 2.25F, 0.5F, 2.25F}},
+  };
+  for (const auto& c : cases) {
+    station.state = {};
+    station.Set("ProFonts", c.proFonts);
+    station.Draw({c.line});
+    SCOPED_TRACE(c.name);
+    ASSERT_EQ(Lines(kCyan, 2).size(), 2U);
+    ExpectLines({Lines(kCyan, 2)[0]}, {c.first});
+  }
+}
+
+// One character at the top of a circle of radius 1: its baseline's middle sits on the circle.
+TEST_F(Preview, ArcText) {
+  ViewOptions marks;
+  marks.ReferenceMarks = true;
+  station.Draw({TextLine("1,0,90,1", "|", "1")}, marks);
+  ExpectLines(Lines(kCyan, 2), {{1, 1.5F, 1, 2}});
+  ASSERT_EQ(station.canvas.Circles().size(), 1U);
+  const auto& circle = station.canvas.Circles()[0];
+  EXPECT_NEAR(circle.x, 1, 2e-6);
+  EXPECT_NEAR(circle.y, 3, 2e-6);
+  EXPECT_EQ(circle.radius, 1);
+  EXPECT_EQ(circle.pen, (platform::Pen{kYellow, 1}));
+  // Two characters stand half an advance to each side: 0.25 of a radian, so the left one leans by it.
+  station.state = {};
+  station.Draw({TextLine("1,0,90,1", "||", "1")});
+  const double s = std::sin(0.25);
+  const double c = std::cos(0.25);
+  const auto at = [&](double r) {
+    return std::pair(static_cast<float>(1 - r * s), static_cast<float>(3 - r * c));
+  };
+  ASSERT_EQ(Lines(kCyan, 2).size(), 2U);
+  ExpectLines({Lines(kCyan, 2)[0]}, {{at(1.5).first, at(1.5).second, at(1).first, at(1).second}});
+  // A radius of 0 puts all at one point; a negative one bends the other way.
+  station.state = {};
+  station.Draw({TextLine("1,0,90,0", "||", "1")});
+  ExpectLines(Lines(kCyan, 2), {{1, 1.5F, 1, 2}, {1, 1.5F, 1, 2}});
+  station.state = {};
+  station.Draw({TextLine("1,0,90,-1", "|", "1")});
+  ExpectLines(Lines(kCyan, 2), {{1, 1.5F, 1, 2}});
+}
+
+// The radius shrinks by a third of the height at each of the three layout runs, while it has the sign.
+TEST_F(Preview, RadiusTextMovesInByAFullHeight) {
+  const struct {
+    const char* name;
+    const char* radius;
+    const char* location;
+    float baseline;  // distance of the baseline above the centre (1, 2)
+  } cases[] = {
+      {"outside", "1", "0", 1},
+      {"inside", "1", "1", 0.5F},
+      {"outside, negative", "-1", "0", -1.5F},
+      {"inside, negative", "-1", "1", -1},
+      {"inside, small", "0.2", "1", 0.2F - 1 / 3.0F},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    station.state = {};
+    station.Draw(
+        {TextLine(std::string("3,0,90,") + c.radius, "|", std::string("1,1,1,0,0,@@,1,1,0,") + c.location)});
+    ExpectLines(Lines(kCyan, 2), {{1, 1.5F - c.baseline + 0.0F, 1, 2 - c.baseline}});
+  }
+}
+
+TEST_F(Preview, SubstitutionByType) {
+  const struct {
+    const char* type;
+    const char* text;
+    float firstX;
+  } cases[] = {{"0", "%%|%%", 0.5F}, {"8", "%%|%%", 0.5F}, {"1", "%%|%%", 2.5F}, {"3", "%%l%%", 2}};
+  for (const auto& c : cases) {
+    station.state = {};
+    station.Draw({std::string(c.type) + ",0,0,1,F,0,0,0,0," + c.text + "@@,1"});
+    ASSERT_FALSE(Lines(kCyan, 2).empty()) << c.type;
+    EXPECT_EQ(Lines(kCyan, 2)[0].x1, c.firstX) << c.type;
+  }
+}
+
+TEST_F(Preview, PointsShowTheirLegWithTheToolPath) {
+  ViewOptions path;
+  path.ToolPath = true;
+  for (const char* type : {"4", "7", "10", "11", "14"}) {
+    station.state = {};
+    station.Draw({std::string(type) + ",1,2"}, path);
+    ExpectLines(Lines(kGreen, 1), {{0, 0, 1, 2}, {1, 2, 0, 0}});
+    EXPECT_EQ(station.state.PenX, 0);
+    station.Draw({std::string(type) + ",1,2"});
+    EXPECT_TRUE(station.canvas.Segments().empty());
+    EXPECT_EQ(station.state.PenX, 1);
+  }
+  station.state = {};
+  station.Draw({"12,1,2", "99,1,2"}, {});
+  EXPECT_TRUE(station.canvas.Segments().empty());
+  EXPECT_EQ(station.state.PenX, 0);
+}
+
+TEST_F(Preview, CrossesLabelsAndSelection) {
+  ViewOptions marks;
+  marks.ReferenceMarks = true;
+  station.job.Selection = "1,3,77,x";
+  const PreviewResult result = station.Draw({"4,1,1", "0,2,2,1,F,0,0,0,0,@@,", "12,3,3", "4,4,4"}, marks);
+  EXPECT_EQ(result.labels,
+            (std::vector<std::string>{"Line 1: MOVE", "Line 2: ", "Line 3: START", "Line 4: MOVE"}));
+  EXPECT_EQ(result.current, 3);
+  ExpectLines(Lines(kYellow, 1), {{0.98F, 1, 1.02F, 1}, {1, 0.98F, 1, 1.02F}});
+  ExpectLines(Lines(kRed, 1),
+              {{1.98F, 2, 2.02F, 2}, {2, 1.98F, 2, 2.02F}, {3.98F, 4, 4.02F, 4}, {4, 3.98F, 4, 4.02F}});
+  station.Draw({"4,1,1", "4,2,2"});
+  EXPECT_EQ(Lines(kRed, 1).size(), 2U);
+  EXPECT_TRUE(Lines(kYellow, 1).empty());
+}
+
+TEST_F(Preview, GraphicsAreScaledTurnedAndPlaced) {
+  station.Put("G.JOB",
+              "G90\r\nG00X1Y0\r\nG01X2Y0\r\ng01X9Y9\r\n G01X9Y9\r\nG01Y9\r\nW5\r\nG00X2Y1Z3\r\nG01X0Y1\r\n");
+  const struct {
+    const char* name;
+    std::string line;
+    std::vector<Segment> lines;
+  } cases[] = {
+      {"graphic", "2,1,2,0,,0,0,0,0,g.job@@,0.5", {{1.5F, 2, 2, 2}, {2, 2.5F, 1, 2.5F}}},
+      {"image", "9,1,2,0,,0,0,0,0,G.JOB@@,1,1,1,0,0,@@,2,1,0", {{3, 2, 5, 2}, {5, 3, 1, 3}}},
+      {"closed path, turned clockwise",
+       "13,1,2,0,,0,0,0,0,G.JOB@@,1,1,1,0,0,@@,1,1,90",
+       {{1, 3, 1, 4}, {0, 4, 0, 2}}},
+      {"park path", "15,7,7,0,,0,0,0,0,G.JOB@@,5,1,1,0,0,@@,3,3,45", {{1, 0, 2, 0}, {2, 1, 0, 1}}},
+      {"no file", "2,1,2,0,,0,0,0,0,NONE.JOB@@,", {}},
+      {"no name", "2,1,2,0,,0,0,0,0,@@,", {}},
+      {"outside", "2,1,2,0,,0,0,0,0,../G.JOB@@,", {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    station.Draw({c.line});
+    ExpectLines(Lines(kCyan, 2), c.lines);
+    EXPECT_EQ(station.canvas.Circles().size(), c.lines.empty() ? 0U : 1U);
+  }
+  EXPECT_TRUE(station.prompts.boxes.empty());
+}
+
+TEST_F(Preview, ArcsOfGraphics) {
+  const struct {
+    const char* name;
+    const char* arc;
+    std::size_t links;
+    Segment last;
+    float penX;
+    float penY;
+  } cases[] = {
+      {"quarter, clockwise from north to east", "G02X1Y0I0J0", 92, {1, 0, 1, 0}, 1, 0},
+      {"three quarters the other way", "G03X1Y0I0J0", 272, {1, 0, 1, 0}, 1, 0},
+      {"full circle", "G03X0Y-1I0J0", 362, {0, -1, 0, -1}, 0, -1},
+      {"half a turn", "G05T.5I0J0P0", 182, {0, 1, 0, 1}, 0, 1},
+      {"two turns are one circle", "G05T2I0J0P0", 362, {0, -1, 0, -1}, 0, -1},
+      {"quarter back", "G05T-.25I0J0P0", 92, {-1, 0, -1, 0}, -1, 0},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    station.Put("A.JOB", std::string("G00X0Y-1\r\n") + c.arc + "\r\n");
+    station.state = {};
+    station.Draw({"2,0,0,0,,0,0,0,0,A.JOB@@,1"});
+    const auto lines = Lines(kCyan, 2);
+    ASSERT_EQ(lines.size(), c.links);
+    ExpectLines({lines.back()}, {c.last});
+    EXPECT_NEAR(station.state.PenX, c.penX, 2e-6);
+    EXPECT_NEAR(station.state.PenY, c.penY, 2e-6);
+  }
+  station.Put("A.JOB", "G01X1Y0\r\nG02X1Y1I0\r\nG01X5Y5\r\n");
+  station.Draw({"2,0,0,0,,0,0,0,0,A.JOB@@,1"});
+  EXPECT_EQ(Lines(kCyan, 2).size(), 1U) << "an arc without its centre ends the file";
+}
+
+TEST_F(Preview, PanelsSymbolsAndRasters) {
+  station.Put("P.PAN", "3\r\n2\r\n");
+  station.Put("S.DM", "10x10\r\n0\r\n.1\r\n1\r\n\r\n\r\n\r\n\r\n\r\nABC@ENDDM@");
+  station.Put("Temp/x", "");
+  station.Expect("out.txt", "\"* \"\r\n\" *\"\r\n");
+  station.Draw({"5,1,1,0,,0,0,0,0,p.pan@@,", "6,2,2,0,,0,0,0,0,s.dm@@,"});
+  ExpectLines(Lines(kCyan, 2), {{1, 1, 4, 1}, {4, 1, 4, 3}, {4, 3, 1, 3}, {1, 3, 1, 1}});
+  ASSERT_EQ(station.canvas.Texts().size(), 1U);
+  EXPECT_EQ(station.canvas.Texts()[0].text, "P.PAN");
+  ASSERT_EQ(station.canvas.Boxes().size(), 3U);
+  EXPECT_NEAR(station.canvas.Boxes()[2].box.x, 2.1F, 1e-6);
+  EXPECT_NEAR(station.canvas.Boxes()[2].box.y, 2.1F, 1e-6);
+  EXPECT_EQ(station.canvas.Boxes()[2].color, kCyan);
+
+  station.Put("AUTO.DM", "Automatic\r\n0\r\n.1\r\n1\r\n\r\n\r\n\r\n\r\n\r\nABC@ENDDM@");
+  station.ExpectEnd(3);
+  station.Draw({"6,0,0,0,,0,0,0,0,AUTO.DM@@,", "5,1,1,0,,0,0,0,0,NONE.PAN@@,", "16,1,1,1,,0,0,0,0,R.RAS@@,"});
+  ExpectLines(Lines(kCyan, 2), {{0, 0, 2, 0}, {2, 0, 2, 2}, {2, 2, 0, 2}, {0, 2, 0, 0}});
+  ASSERT_EQ(station.canvas.Texts().size(), 2U);
+  EXPECT_EQ(station.canvas.Texts()[0].text, "AUTO.DM (AutoSize)");
+  EXPECT_EQ(station.canvas.Texts()[1].text, "NONE.PAN");
+
+  station.Put("R.RAS", "raster");
+  const std::string raster = "16,1,1,0.5,,0,0,0,0,r.ras@@,1,1,1,0,0,@@,1,1,0,0,0,0,0,0,0,1,0.75";
+  station.ExpectNoStart();
+  station.Draw({raster, raster});
+  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"PIXBAKE.EXE not found"});
+  EXPECT_TRUE(station.canvas.Images().empty());
+  station.Put("PIXBAKE.EXE", "program");
+  const std::string header("BM............\x28\0\0\0\4\0\0\0\2\0\0\0", 26);  // 4 by 2 pixels
+  station.Expect("Temp/R.BMP", header);
+  station.Draw({raster});
+  ASSERT_EQ(station.canvas.Images().size(), 1U);
+  EXPECT_EQ(station.canvas.Images()[0].place.width, 0.75F);
+  EXPECT_EQ(station.canvas.Images()[0].place.height, 0.5F);
+}
+
+// type, diameter, rows, pitch, columns, pitch, sides, flat, ... length
+std::string FixtureFile(const std::string& start, const std::string& length) {
+  return start + "\r\n0\r\n0\r\n\r\n\r\n\r\n" + length + ",True\r\n0,0@@\r\n";
+}
+
+TEST_F(Preview, FixturesChangeTheViewAndRepeatWhatIsMarked) {
+  ViewOptions options;
+  options.Fixture = true;
+  options.ToolPath = true;
+  station.Set("Fixture", "F.FIX");
+  station.Put("F.FIX", FixtureFile("0\r\n1\r\n2\r\n0.5\r\n2\r\n3\r\n1\r\n1", "0"));
+  station.Put("G.JOB", "G00X1Y0\r\nG01X2Y0\r\n");
+  station.Draw({"15,0,0,0,,0,0,0,0,G.JOB@@,"}, options);
+  ExpectLines(Lines(kWhite, 1), {{0, 0, 0, 1}, {3, 0, 3, 1}, {0, 0, 6, 0}, {0, 0.5F, 6, 0.5F}});
+  ExpectLines(Lines(kWhite, 2), {{1, 0.5F, 2, 0.5F}, {4, 0, 5, 0}, {4, 0.5F, 5, 0.5F}});
+  EXPECT_EQ(Lines(kGreen, 1).size(), 2U);
+
+  station.Put("F.FIX", FixtureFile("2\r\n1\r\n1\r\n1\r\n1\r\n1\r\n4\r\n0.5", "0"));
+  PreviewResult result = station.Draw({"4,1,1,0,,0,0,0,0,@@,1,3"}, options);
+  EXPECT_EQ(result.view.Height, 4) << "six wide keeps the scale";
+  ExpectLines(Lines(kWhite, 1), {{0, 0, 6, 0}, {0, .5F, 6, .5F}, {0, 1, 6, 1}, {0, 1.5F, 6, 1.5F}});
+  ExpectLines(Lines(kGreen, 1), {{0, 0, 1, 2}, {1, 2, 0, 0}});
+
+  station.Put("F.FIX", FixtureFile("4\r\n10\r\n1\r\n1\r\n1\r\n1\r\n4\r\n0.5", "2"));
+  result = station.Draw({}, options);
+  EXPECT_NEAR(result.view.Height, 31.4159F, 1e-4);
+  EXPECT_NEAR(result.view.Width, 31.4159F * 1.5F, 1e-4);
+  EXPECT_TRUE(station.canvas.Segments().size() == 1) << "only the closing leg";
+
+  station.Put("F.FIX", "2\r\nshort");
+  result = station.Draw({}, options);
+  EXPECT_NEAR(result.view.Height, 31.4159F, 1e-4) << "the last fixture stays in force";
+  station.Set("Fixture", "");
+  EXPECT_EQ(station.Draw({}, options).view.Height, 4);
+}
+
+TEST_F(Preview, HugeCountsStopAtTheirLimits) {
+  ViewOptions options;
+  options.Fixture = options.GridLines = true;
+  station.Set("Fixture", "F.FIX");
+  station.Set("GridSpacing", "1e-9");
+  station.Put("F.FIX", FixtureFile("0\r\n1\r\n32767\r\n1\r\n32767\r\n1\r\n1\r\n1", "0"));
+  station.Put("G.JOB", "G01X2Y0\r\n");
+  station.Draw({"15,0,0,0,,0,0,0,0,G.JOB@@,"}, options);
+  EXPECT_EQ(Lines(kWhite, 2).size(), 1000U);
+  EXPECT_EQ(Lines(kWhite, 1).size(), 4000U);
+  station.Set("GridSpacing", "0");
+  station.Draw({}, options);
+  EXPECT_EQ(Lines(kWhite, 1).size(), 2000U);
+}
+
+TEST_F(Preview, ViewGridAndBackground) {
+  ViewOptions options;
+  options.GridLines = true;
+  PreviewResult result = station.Draw({}, options);
+  EXPECT_EQ(result.view.Width, 6);
+  EXPECT_EQ(result.view.Height, 4);
+  EXPECT_EQ(Lines(kWhite, 1).size(), 5U + 3U);
+  ExpectLines({Lines(kWhite, 1)[0]}, {{1, 0, 1, 4}});
+  ASSERT_EQ(station.canvas.Boxes().size(), 1U);
+  EXPECT_EQ(station.canvas.Boxes()[0].color, 0U);
+
+  options = {};
+  options.BackgroundImage = true;
+  station.Set("UseImageSize", "1");
+  station.Set("BackgroundImage", "PIC.BMP");
+  station.Set("BackgroundImageX", "1");
+  station.Put("PIC.BMP", "BM");
+  station.picture = {400, 400};
+  result = station.Draw({}, options);
+  EXPECT_EQ(result.view.Width, 3);
+  EXPECT_EQ(result.view.Height, 3);
+  ASSERT_EQ(station.canvas.Images().size(), 1U);
+  EXPECT_EQ(station.canvas.Images()[0].name, "PIC.BMP");
+  EXPECT_EQ(station.canvas.Images()[0].place.x, 1);
+  // The job's own picture takes the place of the settings'.
+  station.Put("LockImages.txt", "job.tjb,OWN.BMP,0,0,8,5\r\n");
+  station.Put("OWN.BMP", "BM");
+  result = station.Draw({}, options);
+  EXPECT_EQ(result.view.Width, 8);
+  EXPECT_EQ(station.canvas.Images()[0].name, "OWN.BMP");
+  station.Put("LockImages.txt", "JOB.TJB,,0,0,0,0\r\n");
+  result = station.Draw({}, options);
+  EXPECT_TRUE(station.canvas.Images().empty());
+  EXPECT_EQ(result.view.Width, 1);
+  for (const char* name : {"../PIC.BMP", "NONE.BMP"}) {
+    station.Put("LockImages.txt", std::string("JOB.TJB,") + name + ",0,0,1,1\r\n");
+    station.Draw({}, options);
+    EXPECT_TRUE(station.canvas.Images().empty()) << name;
+  }
+}
+
+TEST_F(Preview, AClickFindsTheNearestLine) {
+  station.Put("G.JOB", "G00X1Y0\r\nG01X2Y0\r\n");
+  const std::vector<std::string> lines = {"4,1,1", "15,0,0,0,,0,0,0,0,G.JOB@@,", "12,3,3",
+                                          TextLine("0,0,0,0", "L", "1")};
+  const struct {
+    float x;
+    float y;
+    int line;
+  } cases[] = {{1, 1.1F, 0}, {2.1F, 0, 1}, {3, 3, 3}, {1.4F, 2.6F, 3}, {20000, 0, -1}, {0.1F, 0, 1}};
+  for (const auto& c : cases) {
+    ClickSearch search{c.x, c.y};
+    station.Draw(lines, {}, &search);
+    EXPECT_EQ(search.line, c.line) << c.x << ' ' << c.y;
+  }
+}
+
+TEST_F(Preview, AMissingFontIsToldOnceForEachName) {
+  const std::string other = "0,0,0,1,NONE.fnt,0,0,0,0,L@@,1";
+  station.Draw({TextLine("0,0,0,0", "L", "1"), other, other});
+  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"Font File Error: File not found"});
+  EXPECT_EQ(Lines(kCyan, 2).size(), 6U) << "drawn with the entries that stand";
+  station.Draw({other});
+  EXPECT_EQ(station.prompts.boxes.size(), 1U);
+  station.Put("BAD.FNT", std::string(75, '\n') + "x:0,0,1,1\r\n");
+  station.Draw({"0,0,0,1,BAD,0,0,0,0,L@@,1", "15,0,0,0,,0,0,0,0,@@,", TextLine("0,0,0,0", "|", "1")});
+  EXPECT_EQ(Lines(kCyan, 2).size(), 1U) << "a bad character leaves out its line only";
+}
+
+}  // namespace
+}  // namespace morvane::textjob
