@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QPainter>
 #include <iostream>
 
 #include "cli/GlobalArguments.h"
@@ -13,6 +14,7 @@
 #include "common/SvgCanvas.h"
 #include "common/Text.h"
 #include "common/Tokenizer.h"
+#include "platform/qt/PictureStore.h"
 #include "platform/qt/QtCanvas.h"
 #include "textjob/ViewSettings.h"
 
@@ -76,11 +78,12 @@ std::string Png(Environment& environment, const DrawOptions& options,
                 const platform::RecordingCanvas& drawing) {
   QImage image(options.width, options.height, QImage::Format_RGB32);
   if (image.isNull()) throw common::RunTimeError(common::kOverflow);
-  image.fill(platform::ToQColor(Background(environment)));
+  const QColor background = platform::ToQt(Background(environment));
+  image.fill(background);
   {
     QPainter painter(&image);
-    platform::PictureCache pictures(environment.files);
-    platform::QtCanvas canvas(painter, image.size(), pictures);
+    platform::PictureStore pictures(environment.files);
+    platform::QtCanvas canvas(painter, {image.size(), 1, background}, pictures);
     drawing.Replay(canvas);
   }
   QByteArray bytes;
