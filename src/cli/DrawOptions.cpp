@@ -1,6 +1,7 @@
 #include "cli/DrawOptions.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <iostream>
@@ -74,8 +75,21 @@ std::string Svg(Environment& environment, const DrawOptions& options,
   return canvas.Document();
 }
 
+// The toolkit's hints about a desktop that is not there are nobody's business on a command line.
+void DropHints(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << message.toStdString() << std::endl;
+}
+
 std::string Png(Environment& environment, const DrawOptions& options,
                 const platform::RecordingCanvas& drawing) {
+  // Text needs the toolkit's fonts, but never a display.
+  qInstallMessageHandler(DropHints);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int count = 1;
+  std::string name = "morvane-cli";
+  char* arguments[] = {name.data(), nullptr};
+  const QGuiApplication application(count, arguments);
+
   QImage image(options.width, options.height, QImage::Format_RGB32);
   if (image.isNull()) throw common::RunTimeError(common::kOverflow);
   const QColor background = platform::ToQt(Background(environment));

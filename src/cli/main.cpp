@@ -1,5 +1,5 @@
 // The command line: the core without windows, for scripts, plants and checks.
-#include <QGuiApplication>
+#include <filesystem>
 #include <iostream>
 
 #include "cli/Commands.h"
@@ -27,11 +27,10 @@ int Run(std::vector<std::string> arguments, const std::string& programDirectory)
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Pictures with text need the toolkit's fonts, but never a display.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
+  std::error_code ignored;
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
   try {
-    return Run({argv + 1, argv + argc}, QCoreApplication::applicationDirPath().toStdString());
+    return Run({argv + 1, argv + argc}, program.parent_path().string());
   } catch (const cli::UsageError&) {
     std::cerr << cli::UsageText();
     return cli::kWrongUsage;
