@@ -13,6 +13,7 @@
 #include "common/Numbers.h"
 #include "gcode/DrawFile.h"
 #include "gcode/MeasureDistances.h"
+#include "platform/RecordingCanvas.h"
 
 namespace morvane::gcode {
 namespace {
@@ -40,26 +41,33 @@ struct ArcData {
 };
 
 // Arcs about wandering centres, each beginning where the last one ended.
+ArcData MakeArc(int i, Point start) {
+  const Point center = {Coordinate(i, 37), Coordinate(i, 91)};
+  const Point end = {center.x + 1.0F + static_cast<float>(i % 7), center.y + static_cast<float>(i % 5) - 2};
+  return {start, end, center, i % 2 == 0};
+}
+
 std::vector<ArcData> MakeArcs(int count) {
   std::vector<ArcData> arcs;
   Point at;
-  for (int i = 0; i < count; ++i) {
-    const Point center = {Coordinate(i, 37), Coordinate(i, 91)};
-    const Point end = {center.x + 1.0F + static_cast<float>(i % 7), center.y + static_cast<float>(i % 5) - 2};
-    arcs.push_back({at, end, center, i % 2 == 0});
-    at = end;
-  }
+  for (int i = 0; i < count; ++i) at = arcs.emplace_back(MakeArc(i, at)).end;
   return arcs;
 }
 
 std::string ArcJob(int count) {
+  constexpr std::size_t kLongestLine = 48;
   std::string job;
-  Point at;
-  for (const ArcData& arc : MakeArcs(count)) {
-    job.append(arc.clockwise ? "G02X" : "G03X").append(common::ExactNumber(arc.end.x));
-    job.append("Y").append(common::ExactNumber(arc.end.y));
-    job.append("I").append(common::ExactNumber(arc.center.x));
-    job.append("J").append(common::ExactNumber(arc.center.y)).append("\r\n");
+  job.reserve(static_cast<std::size_t>(count) * kLongestLine);
+  const auto add = [&](const char* letter, float value) {
+    job.append(letter).append(common::FormatPicture(value, "0.000"));
+  };
+  for (int i = 0; i < count; ++i) {
+    const ArcData arc = MakeArc(i, {});
+    add(arc.clockwise ? "G02X" : "G03X", arc.end.x);
+    add("Y", arc.end.y);
+    add("I", arc.center.x);
+    add("J", arc.center.y);
+    job.append("\r\n");
   }
   return job;
 }
@@ -128,16 +136,10 @@ void SideBySide(benchmark::State& state, const auto& ours, const auto& least, do
   state.counters["limit"] = limit;
 }
 
-class CountingCanvas : public platform::Canvas {
+class CountingCanvas : public platform::RecordingCanvas {
  public:
   std::size_t lines = 0;
-  void Clear() override {}
-  void SetScale(const platform::CanvasView&) override {}
   void Lines(const platform::Pen&, const platform::Segment*, std::size_t count) override { lines += count; }
-  void Box(const platform::Rectangle&, platform::Color, bool) override {}
-  void Circle(float, float, float, const platform::Pen&) override {}
-  void Text(float, float, const std::string&, platform::Color, const platform::TextFace&) override {}
-  void Image(const std::string&, const platform::Rectangle&) override {}
 };
 
 double PeakMegabytes() {

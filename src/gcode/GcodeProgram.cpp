@@ -16,27 +16,33 @@ void SkipLine(std::string_view& text, std::size_t from) {
 
 }  // namespace
 
-void GcodeProgram::Add(const Statement& statement) {
+Statement& GcodeProgram::Append() {
   if (blocks_.empty() || blocks_.back().size() == kBlockSize) {
     blocks_.emplace_back();
     // The first block grows as needed, since most jobs are short.
     if (blocks_.size() > 1) blocks_.back().reserve(kBlockSize);
   }
-  blocks_.back().push_back(statement);
   ++size_;
+  return blocks_.back().emplace_back();
+}
+
+void GcodeProgram::DropLast() {
+  blocks_.back().pop_back();
+  --size_;
 }
 
 GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals) {
   GcodeProgram program;
   Word previous = Word::Unknown;
   for (std::uint32_t line = 1; !text.empty(); ++line) {
-    std::size_t used = 0;
-    Statement statement = ParseStatement(text, foldToCapitals, used);
-    SkipLine(text, used);
-    if (statement.word == Word::Unknown && previous != Word::Tool) continue;
-    statement.line = line;
-    previous = statement.word;
-    program.Add(statement);
+    Statement& statement = program.Append();
+    SkipLine(text, ReadStatement(text, foldToCapitals, statement));
+    if (statement.word == Word::Unknown && previous != Word::Tool) {
+      program.DropLast();
+    } else {
+      statement.line = line;
+      previous = statement.word;
+    }
   }
   return program;
 }

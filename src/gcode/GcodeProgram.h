@@ -13,7 +13,9 @@ namespace morvane::gcode {
 // Kept in blocks: a large job grows without moving what is there.
 class GcodeProgram {
  public:
-  void Add(const Statement& statement);
+  // A fresh statement at the end, to be filled in place.
+  Statement& Append();
+  void DropLast();
   std::size_t Size() const { return size_; }
 
   // Calls `visit(const Statement&)` in the order of the text.

@@ -151,23 +151,21 @@ constexpr Entry kEntries[] = {
 }  // namespace
 
 Statement ParseStatement(std::string_view line, bool foldToCapitals) {
-  std::size_t used = 0;
-  return ParseStatement(line, foldToCapitals, used);
+  Statement statement;
+  ReadStatement(line, foldToCapitals, statement);
+  return statement;
 }
 
-Statement ParseStatement(std::string_view text, bool foldToCapitals, std::size_t& used) {
-  Statement statement;
-  used = 0;
+std::size_t ReadStatement(std::string_view text, bool foldToCapitals, Statement& statement) {
   const std::uint32_t start = Pack(text, foldToCapitals);
   for (const Entry& entry : kEntries) {
     if ((start & entry.mask) != entry.start) continue;
     statement.word = entry.word;
     Cutter cutter(text, entry.length, foldToCapitals);
     entry.read(cutter, statement);
-    used = cutter.Position();
-    break;
+    return cutter.Position();
   }
-  return statement;
+  return 0;
 }
 
 }  // namespace morvane::gcode

@@ -43,8 +43,8 @@ struct Statement {
 // Reads a line. With `foldToCapitals` small letters count as capitals. Never fails: what is no statement
 // is Unknown, numbers that are missing read as 0.
 Statement ParseStatement(std::string_view line, bool foldToCapitals = false);
-// The same at the start of a text that goes on behind the line. The first `used` characters were looked
-// at and hold no line end.
-Statement ParseStatement(std::string_view text, bool foldToCapitals, std::size_t& used);
+// The same into a fresh `statement`, from the start of a text that goes on behind the line. Returns how
+// many characters were looked at; they hold no line end.
+std::size_t ReadStatement(std::string_view text, bool foldToCapitals, Statement& statement);
 
 }  // namespace morvane::gcode

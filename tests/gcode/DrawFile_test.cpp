@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -53,6 +55,13 @@ PassOptions Options(Viewer viewer) {
   options.settings = {
       .feed = 10, .current = 11, .rapid = 12, .background = 14, .lineWidth = 3, .referenceLength = 0.5F};
   return options;
+}
+
+bool Near(const std::array<float, 4>& got, const std::array<float, 4>& expected) {
+  for (std::size_t i = 0; i < got.size(); ++i) {
+    if (std::fabs(got[i] - expected[i]) > 1e-6F) return false;
+  }
+  return true;
 }
 
 TEST(DrawFile, ViewersKnowTheirOwnWords) {
@@ -126,18 +135,15 @@ TEST(DrawFile, ArcsReachToTheirBulge) {
   const PassOptions options = Options(Viewer::Preview);
   const struct {
     const char* text;
-    Extents expected;
-  } cases[] = {
-      {"G00X1Y2\nG02X3Y2I2J2", {3, 2, 1, 1}},    {"G00X1Y2\nG03X3Y2I2J2", {3, 3, 1, 2}},
-      {"G00X1Y2\nG02X1Y2I2J2", {3, 3, 1, 1}},    {"G00X2Y1\nG05T.5I2J2P1", {3, 3, 2, 1}},
-      {"G00X2Y1\nG05T-3.5I2J2P1", {3, 3, 1, 1}},
-  };
+    std::array<float, 4> expected;  // largest x, y, smallest x, y
+  } cases[] = {{"G00X1Y2\nG02X3Y2I2J2", {3, 2, 1, 1}},
+               {"G00X1Y2\nG03X3Y2I2J2", {3, 3, 1, 2}},
+               {"G00X1Y2\nG02X1Y2I2J2", {3, 3, 1, 1}},
+               {"G00X2Y1\nG05T.5I2J2P1", {3, 3, 2, 1}},
+               {"G00X2Y1\nG05T-3.5I2J2P1", {3, 3, 1, 1}}};
   for (const auto& c : cases) {
     const Extents got = GetExtents(Read(options, c.text), options).Extents;
-    EXPECT_NEAR(got.MaxX, c.expected.MaxX, 1e-6) << c.text;
-    EXPECT_NEAR(got.MaxY, c.expected.MaxY, 1e-6) << c.text;
-    EXPECT_NEAR(got.MinX, c.expected.MinX, 1e-6) << c.text;
-    EXPECT_NEAR(got.MinY, c.expected.MinY, 1e-6) << c.text;
+    EXPECT_TRUE(Near({got.MaxX, got.MaxY, got.MinX, got.MinY}, c.expected)) << c.text;
   }
   RecordingCanvas canvas;
   PassState state = DrawFile(Read(options, "G05T2I1J1P0"), options, canvas);
@@ -226,20 +232,15 @@ TEST(SetScale, OneUnitIsAsLongInXAsInY) {
   const struct {
     Extents extents;
     float width, height;
-    platform::CanvasView expected;
-  } cases[] = {
-      {{}, 500, 500, {-0.05F, -0.05F, 1.3F, 1.3F}},
-      {{4, 1, 0, 0}, 1200, 800, {-0.05F, -0.05F, 4.3F, 2.8666667F}},
-      {{1, 4, 0, 0}, 1200, 800, {-0.05F, -0.05F, 6.45F, 4.3F}},
-      {{0, 0, -4, -2}, 100, 100, {-4.05F, -2.05F, 5.3F, 5.3F}},
-      {{8, 6, 5, 3}, 200, 100, {4.95F, 2.95F, 6.6F, 3.3F}},
-  };
+    std::array<float, 4> expected;
+  } cases[] = {{{}, 500, 500, {-0.05F, -0.05F, 1.3F, 1.3F}},
+               {{4, 1, 0, 0}, 1200, 800, {-0.05F, -0.05F, 4.3F, 2.8666667F}},
+               {{1, 4, 0, 0}, 1200, 800, {-0.05F, -0.05F, 6.45F, 4.3F}},
+               {{0, 0, -4, -2}, 100, 100, {-4.05F, -2.05F, 5.3F, 5.3F}},
+               {{8, 6, 5, 3}, 200, 100, {4.95F, 2.95F, 6.6F, 3.3F}}};
   for (const auto& c : cases) {
     const platform::CanvasView got = SetScale(c.extents, c.width, c.height);
-    EXPECT_FLOAT_EQ(got.Left, c.expected.Left);
-    EXPECT_FLOAT_EQ(got.Top, c.expected.Top);
-    EXPECT_FLOAT_EQ(got.Width, c.expected.Width);
-    EXPECT_FLOAT_EQ(got.Height, c.expected.Height);
+    EXPECT_TRUE(Near({got.Left, got.Top, got.Width, got.Height}, c.expected)) << c.expected[2];
   }
   constexpr float kLargest = std::numeric_limits<float>::max();
   EXPECT_ANY_THROW(SetScale({1e9F, 1e9F, 1e9F, 1e9F}, 100, 100));

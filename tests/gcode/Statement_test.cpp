@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "common/Lines.h"
 #include "common/Numbers.h"
 #include "gcode/GcodeProgram.h"
 
@@ -33,69 +34,39 @@ std::string Describe(const Statement& statement) {
   }
 }
 
-TEST(Statement, EveryFormOfTheDialect) {
-  const struct {
-    const char* line;
-    const char* expected;
-  } cases[] = {
-      {"G90", "-"},
-      {"", "-"},
-      {"G0", "-"},
-      {" G00X1Y2", "-"},
-      {"g01x1y1", "-"},
-      {"N10 anything", "-"},
-      {"G77X1Y1", "-"},
-      {"G00X1.250Y-3.5", "rapid X 1.25 Y -3.5"},
-      {"G01X1Y2Z3", "feed X 1 Y 2 Z 3"},
-      {"G00X5", "rapid X 5"},
-      {"G01X5Z3", "feed X 5"},
-      {"G01X1Z3Y2", "feed X 1 Y 2"},
-      {"G00Y5X3", "rapid Y 5"},
-      {"G01Y.5", "feed Y 0.5"},
-      {"G01XY", "feed X 0 Y 0"},
-      {"G01X1.5abcY2e1mm", "feed X 1.5 Y 20"},
-      {"G01XnanYinf", "feed X 0 Y 0"},
-      {"G01X&H10Y 2", "feed X 16 Y 2"},
-      {"G02X1Y2I3J4", "cw 1 2 3 4"},
-      {"G03X1Y2I3J4K5", "ccw 1 2 3 4"},
-      {"G02XYIJ", "cw 0 0 0 0"},
-      {"G02X1Y2I3", "broken"},
-      {"G02X1Y2J3I4", "broken"},
-      {"G03X1I3J4", "broken"},
-      {"G05T-.5I1J2P9", "turn -0.5 1 2"},
-      {"G05T2I1J1", "broken"},
-      {"G05T2I1P1", "broken"},
-      {"G05T2J1P1", "broken"},
-      {"M06T12", "#4 12"},
-      {"M06T99999", "#4 32767"},
-      {"W5", "#5 0"},
-      {"G04P2", "#6 0"},
-      {"I3", "#6 0"},
-      {"S12", "#7 1"},
-      {"S9", "#7 0"},
-      {"C8", "#8 8"},
-      {"C", "#8 0"},
-      {"VP50.5", "#9 50"},
-      {"VF1.5", "#10 1.5"},
-      {"VM2", "#11 2"},
-      {"ENDFILE", "#12 0"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(Describe(ParseStatement(c.line)), c.expected) << c.line;
+// The lines of a text, each described, joined by a bar.
+std::string DescribeLines(std::string_view text, bool fold) {
+  std::string described;
+  common::Lines lines(text);
+  for (std::string_view line; lines.Next(line);) {
+    described += (described.empty() ? "" : "|") + Describe(ParseStatement(line, fold));
+  }
+  return described;
 }
 
-TEST(Statement, FoldedSmallLettersCount) {
+TEST(Statement, EveryFormOfTheDialect) {
   const struct {
-    const char* line;
+    bool fold;
+    const char* lines;
     const char* expected;
   } cases[] = {
-      {"g01x1y2z3", "feed X 1 Y 2 Z 3"},
-      {"g02X1y2I3j4", "cw 1 2 3 4"},
-      {"G05t1i2j3p4", "turn 1 2 3"},
-      {"w5", "#5 0"},
-      {"vp80", "#9 80"},
-      {"end", "#12 0"},
+      {false, "G90\nG0\n G00X1Y2\ng01x1y1\nN10 anything\nG77X1Y1\n\n", "-|-|-|-|-|-|-"},
+      {false, "G00X1.250Y-3.5\nG01X1Y2Z3", "rapid X 1.25 Y -3.5|feed X 1 Y 2 Z 3"},
+      {false, "G00X5\nG01X5Z3\nG01X1Z3Y2", "rapid X 5|feed X 5|feed X 1 Y 2"},
+      {false, "G00Y5X3\nG01Y.5", "rapid Y 5|feed Y 0.5"},
+      {false, "G01XY\nG01XnanYinf", "feed X 0 Y 0|feed X 0 Y 0"},
+      {false, "G01X1.5abcY2e1mm\nG01X&H10Y 2", "feed X 1.5 Y 20|feed X 16 Y 2"},
+      {false, "G02X1Y2I3J4\nG03X1Y2I3J4K5\nG02XYIJ", "cw 1 2 3 4|ccw 1 2 3 4|cw 0 0 0 0"},
+      {false, "G02X1Y2I3\nG02X1Y2J3I4\nG03X1I3J4", "broken|broken|broken"},
+      {false, "G05T-.5I1J2P9\nG05T0I1J2P", "turn -0.5 1 2|turn 0 1 2"},
+      {false, "G05T2I1J1\nG05T2I1P1\nG05T2J1P1", "broken|broken|broken"},
+      {false, "M06T12\nM06T99999\nM06T", "#4 12|#4 32767|#4 0"},
+      {false, "W5\nG04P2\nI3\nENDFILE", "#5 0|#6 0|#6 0|#12 0"},
+      {false, "S12\nS9\nC8\nC\nVP50.5\nVF1.5\nVM2", "#7 1|#7 0|#8 8|#8 0|#9 50|#10 1.5|#11 2"},
+      {true, "g01x1y2z3\ng02X1y2I3j4\nG05t1i2j3p4", "feed X 1 Y 2 Z 3|cw 1 2 3 4|turn 1 2 3"},
+      {true, "w5\nvp80\nend", "#5 0|#9 80|#12 0"},
   };
-  for (const auto& c : cases) EXPECT_EQ(Describe(ParseStatement(c.line, true)), c.expected) << c.line;
+  for (const auto& c : cases) EXPECT_EQ(DescribeLines(c.lines, c.fold), c.expected) << c.lines;
 }
 
 TEST(GcodeProgram, KeepsStatementsWithTheirLines) {

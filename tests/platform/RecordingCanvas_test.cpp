@@ -28,10 +28,9 @@ TEST(RecordingCanvas, JoinsLinesOfOnePenAndKeepsTheOrder) {
   first.Replay(copy);
   for (const RecordingCanvas* canvas : {&first, &copy}) {
     using Kind = RecordingCanvas::Kind;
-    const std::pair<Kind, std::uint32_t> expected[] = {
-        {Kind::Scale, 1},  {Kind::Lines, 2}, {Kind::Lines, 1}, {Kind::Box, 1},   {Kind::Lines, 1},
-        {Kind::Circle, 1}, {Kind::Text, 1},  {Kind::Image, 1}, {Kind::Scale, 1},
-    };
+    const std::pair<Kind, std::uint32_t> expected[] = {{Kind::Scale, 1}, {Kind::Lines, 2}, {Kind::Lines, 1},
+                                                       {Kind::Box, 1},   {Kind::Lines, 1}, {Kind::Circle, 1},
+                                                       {Kind::Text, 1},  {Kind::Image, 1}, {Kind::Scale, 1}};
     ASSERT_EQ(canvas->Runs().size(), std::size(expected));
     for (std::size_t i = 0; i < std::size(expected); ++i) {
       EXPECT_EQ(canvas->Runs()[i].kind, expected[i].first) << i;

@@ -5,15 +5,14 @@
 #include "common/RunTimeError.h"
 #include "gcode/DrawFile.h"
 #include "gcode/MeasureDistances.h"
-#include "gcode/MoveLine.h"
+#include "platform/RecordingCanvas.h"
 #include "support/Mutator.h"
 
 namespace morvane::gcode {
 namespace {
 
-class CheckingCanvas : public platform::Canvas {
+class CheckingCanvas : public platform::RecordingCanvas {
  public:
-  void Clear() override {}
   void SetScale(const platform::CanvasView& view) override {
     EXPECT_TRUE(view.Width > 0 && view.Height > 0 && std::isfinite(view.Left + view.Width));
   }
@@ -23,10 +22,6 @@ class CheckingCanvas : public platform::Canvas {
       ASSERT_TRUE(std::isfinite(segments[i].x2) && std::isfinite(segments[i].y2));
     }
   }
-  void Box(const platform::Rectangle&, platform::Color, bool) override {}
-  void Circle(float, float, float, const platform::Pen&) override {}
-  void Text(float, float, const std::string&, platform::Color, const platform::TextFace&) override {}
-  void Image(const std::string&, const platform::Rectangle&) override {}
 };
 
 void Measure(const std::string& bytes) {
