@@ -14,10 +14,14 @@ std::string WithoutLastSlashes(std::string path) {
   return path;
 }
 
-std::string Joined(const std::string& directory, std::string_view name) {
-  std::string result = directory;
-  if (result.empty() || result.back() != '/') result += '/';
-  return result.append(name);
+void Append(std::string& path, std::string_view part) {
+  if (path.empty() || path.back() != '/') path += '/';
+  path += part;
+}
+
+std::string Joined(std::string path, std::string_view name) {
+  Append(path, name);
+  return path;
 }
 
 // Parts between the slashes, without empty ones and ".".
@@ -131,13 +135,14 @@ std::string PathResolver::Below(const std::string& directory, const std::string&
   std::string path = directory;
   bool missing = false;
   for (std::string_view part : parts) {
-    std::string next = Joined(path, part);
-    if (!missing && fileSystem_.Status(next).kind == platform::EntryKind::Missing) {
-      const std::string found = FindIgnoringCase(path, part);
-      missing = found.empty();
-      if (!missing) next = Joined(path, found);
-    }
-    path = std::move(next);
+    const std::size_t length = path.size();
+    Append(path, part);
+    // Below a part that is missing there is nothing to look for; names of any length pass in one go.
+    if (missing || fileSystem_.Status(path).kind != platform::EntryKind::Missing) continue;
+    path.resize(length);
+    const std::string found = FindIgnoringCase(path, part);
+    missing = found.empty();
+    Append(path, missing ? part : found);
   }
   return path;
 }

@@ -98,6 +98,12 @@ TEST_F(FilesTest, NamesFromDocumentsStayInside) {
   }
 }
 
+TEST_F(FilesTest, AnEndlessNameCostsNoMoreThanItsLength) {
+  std::string name;
+  for (int i = 0; i < 500'000; ++i) name += "a\\";
+  EXPECT_EQ(files_.ResolveInside(name).size(), name.size() + 5);
+}
+
 TEST_F(FilesTest, ProgramNamesLeadBack) {
   struct Case {
     const char* native;

@@ -48,6 +48,7 @@ TEST(SettingsSnapshot, ReadsOneKey) {
   const Case cases[] = {
       {"SETTINGS", "ip", "1.2.3.4"},
       {"Settings", "Units", "in"},
+      {"Settings", ";Units", "none"},
       {"Settings", "Quoted", " a b "},
       {"Settings", "Single", "x"},
       {"Settings", "Half", "\"x"},

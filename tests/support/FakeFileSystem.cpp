@@ -120,8 +120,6 @@ std::unique_ptr<platform::OutputFile> FakeFileSystem::Create(const std::string& 
   error = faults.create;
   if (directories_.count(clean)) error = Error::AccessError;
   if (!directories_.count(Parent(clean))) error = Error::PathNotFound;
-  const auto found = files_.find(clean);
-  if (found != files_.end() && !found->second.writable) error = Error::PermissionDenied;
   if (error != Error::None) return nullptr;
   files_[clean] = {"", NextTime(), true};
   return std::make_unique<FakeOutputFile>(*this, clean);

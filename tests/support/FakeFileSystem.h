@@ -34,6 +34,7 @@ class FakeFileSystem : public platform::FileSystem {
   std::string Get(const std::string& path) const;
   bool Has(const std::string& path) const { return files_.count(path) != 0; }
   void SetModified(const std::string& path, std::int64_t time) { files_.at(path).modified = time; }
+  // Status tells it, but nothing is refused here: an administrator's program could write all the same.
   void SetWritable(const std::string& path, bool writable) { files_.at(path).writable = writable; }
 
   platform::FileStatus Status(const std::string& path) const override;

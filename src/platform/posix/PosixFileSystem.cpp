@@ -16,7 +16,7 @@ namespace morvane::platform {
 namespace {
 
 constexpr std::size_t kReadStep = 1 << 16;
-constexpr mode_t kPermissionBits = 07777;
+constexpr mode_t kPermissionBits = 0777;
 
 bool HasNul(const std::string& path) {
   return path.find('\0') != std::string::npos;
@@ -71,13 +71,12 @@ Error ReadAll(int descriptor, std::size_t expected, const std::string& path, std
   }
 }
 
-std::unique_ptr<OutputFile> Open(const std::string& path, int mode, Error& error) {
+int Open(const std::string& path, int mode, Error& error) {
   // Without blocking: a pipe that nobody reads would hold the program up.
-  const int descriptor =
-      HasNul(path) ? -1 : open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | mode, 0666);
+  const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | mode;
+  const int descriptor = HasNul(path) ? -1 : open(path.c_str(), flags, 0666);
   error = HasNul(path) ? Error::AccessError : descriptor < 0 ? PosixError(errno, path) : Error::None;
-  if (descriptor < 0) return nullptr;
-  return std::make_unique<PosixOutputFile>(descriptor, path);
+  return descriptor;
 }
 
 }  // namespace
@@ -121,15 +120,19 @@ std::string PosixFileSystem::RealPath(const std::string& path) const {
 }
 
 std::unique_ptr<OutputFile> PosixFileSystem::Create(const std::string& path, Error& error) {
-  return Open(path, O_CREAT | O_TRUNC, error);
+  const int descriptor = Open(path, O_TRUNC, error);
+  if (descriptor < 0) return nullptr;
+  return std::make_unique<PosixOutputFile>(descriptor, path);
 }
 
 std::unique_ptr<OutputFile> PosixFileSystem::CreateNew(const std::string& path,
                                                        const std::string& permissionsLike, Error& error) {
-  std::unique_ptr<OutputFile> file = Open(path, O_CREAT | O_EXCL, error);
+  const int descriptor = Open(path, O_EXCL, error);
+  if (descriptor < 0) return nullptr;
+  auto file = std::make_unique<PosixOutputFile>(descriptor, path);
   struct stat status {};
-  if (!file || HasNul(permissionsLike) || stat(permissionsLike.c_str(), &status) != 0) return file;
-  if (chmod(path.c_str(), status.st_mode & kPermissionBits) == 0) return file;
+  if (HasNul(permissionsLike) || stat(permissionsLike.c_str(), &status) != 0) return file;
+  if (fchmod(descriptor, status.st_mode & kPermissionBits) == 0) return file;
   error = PosixError(errno, path);
   unlink(path.c_str());
   return nullptr;
