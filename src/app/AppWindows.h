@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <string>
 
+#include "app/MdiChild.h"
 #include "widgets/Windows.h"
 
 class QDialog;
@@ -15,7 +16,6 @@ struct AppContext;
 namespace morvane::app {
 
 class frmMain;
-class MdiChild;
 
 class AppWindows : public widgets::Windows {
  public:
@@ -27,6 +27,8 @@ class AppWindows : public widgets::Windows {
   void OpenGraphicViewer(const std::string& file) override;
   void Refresh() override;
 
+  // The Font Viewer, made on first use. An empty name keeps the font it shows.
+  void ShowFontView(const std::string& name = "");
   // Opens a file of a known kind (native path) in its window; tells when the kind is not known.
   void OpenFile(const std::string& path);
   void RedrawActiveJob();
@@ -37,6 +39,7 @@ class AppWindows : public widgets::Windows {
  private:
   const context::AppContext& context_;
   frmMain* frame_ = nullptr;
+  QPointer<MdiChild> fontView_;
 };
 
 }  // namespace morvane::app

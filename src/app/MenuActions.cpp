@@ -3,6 +3,7 @@
 #include "app/AppWindows.h"
 #include "app/frmAbout.h"
 #include "app/frmMain.h"
+#include "common/FileDialogs.h"
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
@@ -16,6 +17,15 @@ using context::ViewOptions;
 void MenuActions::mnuFileExit_Click() {
   frame_.close();
 }
+
+void MenuActions::mnuGraphicView_Click() {
+  const std::string name = context_.fileDialogs.OpenFileDialog("Job Files|*.JOB|All Files|*.*", "job");
+  if (!name.empty()) windows_.OpenGraphicViewer(name);
+}
+
+void MenuActions::mnuGraphicOpenLastJob_Click() { windows_.OpenGraphicViewer("TEXTJOB.JOB"); }
+
+void MenuActions::mnuFontView_Click() { windows_.ShowFontView(); }
 
 void MenuActions::Toggle(bool ViewOptions::*flag) {
   context_.viewOptions.*flag = !(context_.viewOptions.*flag);

@@ -17,6 +17,9 @@ class MenuActions {
       : context_(context), windows_(windows), frame_(frame) {}
 
   void mnuFileExit_Click();
+  void mnuGraphicView_Click();
+  void mnuGraphicOpenLastJob_Click();
+  void mnuFontView_Click();
   void mnuViewToolPath_Click();
   void mnuViewGridLines_Click();
   void mnuViewReferenceMarks_Click();

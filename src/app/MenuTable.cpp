@@ -59,13 +59,13 @@ constexpr MenuEntry kEntries[] = {
     {"mnuGraphic", "mnuGraphicImport", "&Import", "", "Make a G-code job from a vector drawing", nullptr, kAny, kPlain, kLine},
     {"mnuGraphic", "mnuGraphicOptimize", "&Optimize", "", "Shorten the rapid moves of a G-code job"},
     {"mnuGraphic", "mnuGraphicGenerate", "&Generate", "", "Make a G-code job from a pattern"},
-    {"mnuGraphic", "mnuGraphicView", "&View", "Ctrl+G", "Show a G-code job", nullptr, kAny, kPlain, kLine},
+    {"mnuGraphic", "mnuGraphicView", "&View", "Ctrl+G", "Show a G-code job", &A::mnuGraphicView_Click, kAny, kPlain, kLine},
     {"mnuGraphic", "mnuGraphicEditCode", "&Edit Code", "", "Edit a G-code job as text and drawing"},
     {"mnuGraphic", "mnuGraphicNewCode", "&New Code", "", "Begin a new G-code job"},
     {"mnuGraphic", "mnuGraphicJogAndTeach", "&Jog and Teach Viewer", "", "Build a G-code job with the machine"},
     {"mnuGraphic", "mnuGraphicCheckMeasurements", "&Check Measurements", "", "Compare measured points with their limits", nullptr, kAny, kPlain, kLine},
     {"mnuGraphic", "mnuGraphicRunGCode", "&Run G-Code", "", "Send single G-code lines to the controller"},
-    {"mnuGraphic", "mnuGraphicOpenLastJob", "Open &TEXTJOB.JOB", "", "Show the last run of a text job as G-code", nullptr, kAny, kDeveloper, kLine},
+    {"mnuGraphic", "mnuGraphicOpenLastJob", "Open &TEXTJOB.JOB", "", "Show the last run of a text job as G-code", &A::mnuGraphicOpenLastJob_Click, kAny, kDeveloper, kLine},
     {"mnuGraphic", "mnuGraphicUploadLastJob", "U&pload TEXTJOB.JOB", "", "Fetch the last run of a text job as G-code and show it"},
 
     {"mnuRaster", "mnuRasterDownload", "&Download", "", "Send a raster file to the controller"},
@@ -82,7 +82,7 @@ constexpr MenuEntry kEntries[] = {
 
     {"mnuFont", "mnuFontDownload", "&Download", "", "Send a font to the controller"},
     {"mnuFont", "mnuFontUpload", "&Upload", "", "Fetch fonts from the controller"},
-    {"mnuFont", "mnuFontView", "&View", "", "Look at the characters of a font", nullptr, kAny, kPlain, kLine},
+    {"mnuFont", "mnuFontView", "&View", "", "Look at the characters of a font", &A::mnuFontView_Click, kAny, kPlain, kLine},
     {"mnuFont", "mnuFontEdit", "&Edit", "", "Edit the characters of a font"},
     {"mnuFont", "mnuFontCreate", "&Create", "", "Make a font from a G-code job"},
 

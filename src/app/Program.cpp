@@ -2,12 +2,14 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileDialog>
 
 #include "app/StartSettings.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "common/ImportSettings.h"
 #include "common/RunTimeError.h"
+#include "gcode/frmPreview.h"
 #include "platform/posix/PosixPaths.h"
 #include "platform/qt/QtSystem.h"
 #include "platform/qt/QtText.h"
@@ -29,9 +31,20 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
       waitWindow_(windows_),
       context_{files_,        settings_,    processRunner_, clock_,          locale_,       systemInfo_,
                prompts_,      fileDialogs_, waitWindow_,    statusPanels_,   operations_,   pictures_,
-               statusPanels_, viewOptions_, windows_,       abortTransfers_, developerMode_} {}
+               statusPanels_, viewOptions_, windows_,       abortTransfers_, developerMode_} {
+  prompts_.SetSidePanel("job", [this](QFileDialog& dialog) { return PreviewPanel(dialog); });
+}
 
 Program::~Program() = default;
+
+QWidget* Program::PreviewPanel(QFileDialog& dialog) {
+  auto* panel = new gcode::frmPreview(context_, &dialog);
+  QObject::connect(&dialog, &QFileDialog::currentChanged, panel, [this, panel](const QString& path) {
+    const bool file = QFileInfo(path).isFile();
+    panel->ShowFile(file ? files_.ProgramName(platform::PathFromQt(path)) : std::string());
+  });
+  return panel;
+}
 
 int Program::Run(const CommandLine& line) {
   const platform::SingleInstance instance(files_.BaseDirectory());

@@ -40,6 +40,8 @@ class Program {
  private:
   void Start(const CommandLine& line);
   void PrepareSettings();
+  // What stands beside the file list of an open dialog for G-code jobs.
+  QWidget* PreviewPanel(QFileDialog& dialog);
 
   bool abortTransfers_ = false;
   bool developerMode_ = false;
