@@ -1,25 +1,32 @@
 #include "app/AppWindows.h"
 
 #include <QDialog>
+#include <QFileInfo>
 #include <QMdiArea>
 
 #include "app/RecentFiles.h"
 #include "app/frmMain.h"
-#include "common/FileNames.h"
 #include "common/Files.h"
-#include "common/Text.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "fonts/frmFontView.h"
 #include "gcode/frmGraphic.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
+#include "textjob/frmEdit.h"
 
 namespace morvane::app {
 namespace {
 
 // A closed window lives on, hidden, while an operation runs.
-bool IsOpen(const QPointer<MdiChild>& child) { return !child.isNull() && child->isVisible(); }
+bool IsOpen(const QPointer<MdiChild>& child) {
+  return !child.isNull() && child->isVisible();
+}
+
+template <typename T>
+T* Form(const QPointer<MdiChild>& child) {
+  return qobject_cast<T*>(child->widget());
+}
 
 }  // namespace
 
@@ -31,10 +38,23 @@ void AppWindows::OpenGraphicViewer(const std::string& file) {
   frame_->AddChild(new gcode::frmGraphic(context_, file));
 }
 
+textjob::frmEdit* AppWindows::ShowEditor() {
+  if (!IsOpen(editor_)) {
+    editor_ = frame_->AddChild(new textjob::frmEdit(context_));
+    editor_->showMaximized();
+  }
+  frame_->Area().setActiveSubWindow(editor_);
+  return Form<textjob::frmEdit>(editor_);
+}
+
+void AppWindows::CloseEditor() {
+  if (IsOpen(editor_)) editor_->close();
+}
+
 void AppWindows::ShowFontView(const std::string& name) {
   if (!IsOpen(fontView_)) fontView_ = frame_->AddChild(new fonts::frmFontView(context_));
   frame_->Area().setActiveSubWindow(fontView_);
-  if (!name.empty()) qobject_cast<fonts::frmFontView*>(fontView_->widget())->OpenFont(name);
+  if (!name.empty()) Form<fonts::frmFontView>(fontView_)->OpenFont(name);
 }
 
 void AppWindows::Refresh() {
@@ -43,17 +63,31 @@ void AppWindows::Refresh() {
 
 void AppWindows::OpenFile(const std::string& path) {
   const std::string name = context_.files.ProgramName(path);
-  const std::string extension = common::ToUpper(common::FileExtension(common::PathFileName(path)));
+  const QString kind = QFileInfo(platform::PathToQt(path)).suffix().toUpper();
+  if (kind == "TJB") {
+    OpenJob(name);
+  } else if (kind == "JOB") {
+    OpenGraphicViewer(name);
+  } else if (kind == "FNT") {
+    ShowFontView(name);
+  } else {
+    return context_.statusPanels.Tell(
+        QObject::tr("No window opens this file: %1").arg(platform::PathToQt(path)));
+  }
   RememberFile(context_.settings, path);
-  if (extension == "JOB") return OpenGraphicViewer(name);
-  if (extension == "FNT") return ShowFontView(name);
-  context_.statusPanels.Tell(QObject::tr("No window opens this file: %1").arg(platform::PathToQt(path)));
 }
 
-void AppWindows::RedrawActiveJob() {}
+void AppWindows::OpenJob(const std::string& name) {
+  textjob::frmEdit* editor = ShowEditor();
+  if (editor->LeaveJob()) editor->OpenJob(name);
+}
+
+void AppWindows::RedrawActiveJob() {
+  if (EditorIsActive()) Form<textjob::frmEdit>(editor_)->DrawJob();
+}
 
 bool AppWindows::EditorIsActive() const {
-  return false;
+  return IsOpen(editor_) && frame_->ActiveForm() == editor_->widget();
 }
 
 int AppWindows::ShowModal(QDialog& dialog) {

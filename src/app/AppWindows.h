@@ -13,6 +13,10 @@ namespace morvane::context {
 struct AppContext;
 }
 
+namespace morvane::textjob {
+class frmEdit;
+}
+
 namespace morvane::app {
 
 class frmMain;
@@ -27,10 +31,16 @@ class AppWindows : public widgets::Windows {
   void OpenGraphicViewer(const std::string& file) override;
   void Refresh() override;
 
+  // The text job editor, made on first use, in front of all others.
+  textjob::frmEdit* ShowEditor();
+  // Unloads it, unless it refuses.
+  void CloseEditor();
   // The Font Viewer, made on first use. An empty name keeps the font it shows.
   void ShowFontView(const std::string& name = "");
   // Opens a file of a known kind (native path) in its window; tells when the kind is not known.
   void OpenFile(const std::string& path);
+  // Opens a job (program name) in the editor, once a changed one there is settled.
+  void OpenJob(const std::string& name);
   void RedrawActiveJob();
   bool EditorIsActive() const;
   // Shows a dialog until it is closed.
@@ -39,6 +49,7 @@ class AppWindows : public widgets::Windows {
  private:
   const context::AppContext& context_;
   frmMain* frame_ = nullptr;
+  QPointer<MdiChild> editor_;
   QPointer<MdiChild> fontView_;
 };
 

@@ -4,15 +4,36 @@
 #include "app/frmAbout.h"
 #include "app/frmMain.h"
 #include "common/FileDialogs.h"
+#include "common/Files.h"
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
-#include "context/ViewOptions.h"
+#include "textjob/ViewOptions.h"
+#include "textjob/frmEdit.h"
 #include "widgets/NotAvailable.h"
 
 namespace morvane::app {
 
-using context::ViewOptions;
+using textjob::ViewOptions;
+
+void MenuActions::mnuFileOpen_Click() {
+  windows_.ShowEditor();
+  const std::string name = context_.fileDialogs.OpenFileDialog("TJB Files (*.TJB)|*.TJB", "tjb");
+  if (!name.empty()) windows_.OpenFile(context_.files.Resolve(name));
+}
+
+void MenuActions::mnuFileEdit_Click() {
+  windows_.ShowEditor();
+}
+void MenuActions::mnuFileClose_Click() {
+  windows_.CloseEditor();
+}
+void MenuActions::mnuFileSave_Click() {
+  windows_.ShowEditor()->cmdSave_Click();
+}
+void MenuActions::mnuFileSaveAs_Click() {
+  windows_.ShowEditor()->SaveJobAs();
+}
 
 void MenuActions::mnuFileExit_Click() {
   frame_.close();
@@ -23,30 +44,34 @@ void MenuActions::mnuGraphicView_Click() {
   if (!name.empty()) windows_.OpenGraphicViewer(name);
 }
 
-void MenuActions::mnuGraphicOpenLastJob_Click() { windows_.OpenGraphicViewer("TEXTJOB.JOB"); }
+void MenuActions::mnuGraphicOpenLastJob_Click() {
+  windows_.OpenGraphicViewer("TEXTJOB.JOB");
+}
 
-void MenuActions::mnuFontView_Click() { windows_.ShowFontView(); }
+void MenuActions::mnuFontView_Click() {
+  windows_.ShowFontView();
+}
 
-void MenuActions::Toggle(bool ViewOptions::*flag) {
-  context_.viewOptions.*flag = !(context_.viewOptions.*flag);
+void MenuActions::Toggle(bool ViewOptions::*mark) {
+  context_.viewOptions.*mark = !(context_.viewOptions.*mark);
   frame_.ShowViewMarks();
   frame_.Refresh();
 }
 
 void MenuActions::mnuViewToolPath_Click() {
-  Toggle(&ViewOptions::toolPath);
+  Toggle(&ViewOptions::ToolPath);
 }
 void MenuActions::mnuViewGridLines_Click() {
-  Toggle(&ViewOptions::gridLines);
+  Toggle(&ViewOptions::GridLines);
 }
 void MenuActions::mnuViewReferenceMarks_Click() {
-  Toggle(&ViewOptions::referenceMarks);
+  Toggle(&ViewOptions::ReferenceMarks);
 }
 void MenuActions::mnuViewBackgroundImage_Click() {
-  Toggle(&ViewOptions::backgroundImage);
+  Toggle(&ViewOptions::BackgroundImage);
 }
 void MenuActions::mnuViewFixture_Click() {
-  Toggle(&ViewOptions::fixture);
+  Toggle(&ViewOptions::Fixture);
 }
 void MenuActions::mnuViewRefresh_Click() {
   frame_.Refresh();

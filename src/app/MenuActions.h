@@ -3,8 +3,10 @@
 
 namespace morvane::context {
 struct AppContext;
+}
+namespace morvane::textjob {
 struct ViewOptions;
-}  // namespace morvane::context
+}
 
 namespace morvane::app {
 
@@ -16,6 +18,11 @@ class MenuActions {
   MenuActions(const context::AppContext& context, AppWindows& windows, frmMain& frame)
       : context_(context), windows_(windows), frame_(frame) {}
 
+  void mnuFileOpen_Click();
+  void mnuFileEdit_Click();
+  void mnuFileClose_Click();
+  void mnuFileSave_Click();
+  void mnuFileSaveAs_Click();
   void mnuFileExit_Click();
   void mnuGraphicView_Click();
   void mnuGraphicOpenLastJob_Click();
@@ -34,7 +41,7 @@ class MenuActions {
   void ConnectionPanel_Click();
 
  private:
-  void Toggle(bool context::ViewOptions::*flag);
+  void Toggle(bool textjob::ViewOptions::*mark);
 
   const context::AppContext& context_;
   AppWindows& windows_;

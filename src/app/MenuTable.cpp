@@ -40,12 +40,12 @@ constexpr bool kLine = true;
 
 // clang-format off
 constexpr MenuEntry kEntries[] = {
-    {"mnuFile", "mnuFileOpen", "&Open", "Ctrl+O", "Open a text job", nullptr},
-    {"mnuFile", "mnuFileEdit", "&Edit", "Ctrl+E", "Show the text job editor", nullptr},
+    {"mnuFile", "mnuFileOpen", "&Open", "Ctrl+O", "Open a text job", &A::mnuFileOpen_Click},
+    {"mnuFile", "mnuFileEdit", "&Edit", "Ctrl+E", "Show the text job editor", &A::mnuFileEdit_Click},
     {"mnuFile", "mnuFileOffset", "O&ffset", "", "Shift every line of the text job", nullptr, kJob},
-    {"mnuFile", "mnuFileClose", "&Close", "", "Close the text job editor", nullptr},
-    {"mnuFile", "mnuFileSave", "&Save", "Ctrl+S", "Save the text job", nullptr, kJob, kPlain, kLine},
-    {"mnuFile", "mnuFileSaveAs", "Save &As...", "Ctrl+Shift+S", "Save the text job under another name", nullptr, kJob},
+    {"mnuFile", "mnuFileClose", "&Close", "", "Close the text job editor", &A::mnuFileClose_Click},
+    {"mnuFile", "mnuFileSave", "&Save", "Ctrl+S", "Save the text job", &A::mnuFileSave_Click, kJob, kPlain, kLine},
+    {"mnuFile", "mnuFileSaveAs", "Save &As...", "Ctrl+Shift+S", "Save the text job under another name", &A::mnuFileSaveAs_Click, kJob},
     {"mnuFile", "mnuFileDownload", "&Download", "", "Send a text job to the controller", nullptr, kAny, kPlain, kLine},
     {"mnuFile", "mnuFileUpload", "&Upload", "", "Fetch text jobs from the controller"},
     {"mnuFile", "mnuFilePrint", "&Print", "Ctrl+P", "Print the text job", nullptr, kAny, kPlain, kLine},

@@ -29,9 +29,10 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
       fileDialogs_(prompts_, files_, dialogFolders_),
       windows_(context_),
       waitWindow_(windows_),
-      context_{files_,        settings_,    processRunner_, clock_,          locale_,       systemInfo_,
-               prompts_,      fileDialogs_, waitWindow_,    statusPanels_,   operations_,   pictures_,
-               statusPanels_, viewOptions_, windows_,       abortTransfers_, developerMode_} {
+      context_{files_,        settings_,       processRunner_, clock_,        locale_,     systemInfo_,
+               prompts_,      fileDialogs_,    waitWindow_,    statusPanels_, operations_, pictures_,
+               statusPanels_, viewOptions_,    job_,           previewState_, font_,       glyphs_,
+               windows_,      abortTransfers_, developerMode_} {
   prompts_.SetSidePanel("job", [this](QFileDialog& dialog) { return PreviewPanel(dialog); });
 }
 

@@ -12,7 +12,7 @@
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
-#include "context/ViewOptions.h"
+#include "fonts/GlyphCache.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixPerUserStore.h"
 #include "platform/posix/PosixProcesses.h"
@@ -21,6 +21,9 @@
 #include "platform/qt/PictureStore.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtLocale.h"
+#include "textjob/PreviewState.h"
+#include "textjob/TextJob.h"
+#include "textjob/ViewOptions.h"
 #include "widgets/QtPrompts.h"
 #include "widgets/QtWaitWindow.h"
 
@@ -61,7 +64,11 @@ class Program {
   common::DialogFolders dialogFolders_;
   common::FileDialogs fileDialogs_;
   context::StatusPanels statusPanels_;
-  context::ViewOptions viewOptions_;
+  textjob::ViewOptions viewOptions_;
+  textjob::TextJob job_;
+  textjob::PreviewState previewState_;
+  fonts::FontTable font_;
+  fonts::GlyphCache glyphs_{font_};
   AppWindows windows_;
   widgets::QtWaitWindow waitWindow_;
   context::AppContext context_;

@@ -2,22 +2,17 @@
 
 #include <string>
 
+#include "common/SettingDefaults.h"
 #include "common/Settings.h"
 
 namespace morvane::app {
-namespace {
-
-constexpr const char* kColors[] = {"16776960", "255", "65280", "16777215", "0", "65535"};
-
-}  // namespace
-
 void WriteColorDefaults(const common::Settings& settings) {
   const common::SettingsSnapshot snapshot = settings.Read();
   std::vector<common::SettingChange> changes;
-  for (std::size_t i = 0; i < std::size(kColors); ++i) {
+  for (std::size_t i = 0; i < std::size(common::kColorDefaults); ++i) {
     const std::string key = "Color" + std::to_string(i);
     if (!snapshot.Get(common::kSettingsSection, key, "").empty()) continue;
-    changes.push_back({std::string(common::kSettingsSection), key, kColors[i]});
+    changes.push_back({std::string(common::kSettingsSection), key, common::kColorDefaults[i]});
   }
   if (!changes.empty()) settings.Apply(changes);
 }

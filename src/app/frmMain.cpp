@@ -13,13 +13,13 @@
 #include "app/MenuBuilder.h"
 #include "app/MenuTable.h"
 #include "app/Version.h"
-#include "app/ViewMarks.h"
 #include "common/Files.h"
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
+#include "textjob/ViewSettings.h"
 
 namespace morvane::app {
 
@@ -52,6 +52,7 @@ void frmMain::MDIForm_Load() {
   Refresh();
   SetMainCaption();
   ReadGeometryAndMarks();
+  windows_.ShowEditor();
   EnableEntries();
 }
 
@@ -76,7 +77,10 @@ void frmMain::Refresh() {
 }
 
 void frmMain::ShowViewMarks() {
-  for (const ViewMark& mark : ViewMarks()) Entry(mark.entry)->setChecked(context_.viewOptions.*mark.flag);
+  for (const textjob::ViewMark& mark : textjob::kViewMarks) {
+    const std::string entry = std::string("mnu") + mark.key;
+    Entry(entry.c_str())->setChecked(context_.viewOptions.*mark.mark);
+  }
 }
 
 MdiChild* frmMain::AddChild(QWidget* form) {

@@ -12,7 +12,6 @@
 #include "app/MdiChild.h"
 #include "app/MenuActions.h"
 #include "app/RecentFiles.h"
-#include "app/ViewMarks.h"
 #include "app/frmMain.h"
 #include "common/FileNames.h"
 #include "common/Files.h"
@@ -23,6 +22,7 @@
 #include "platform/Prompts.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
+#include "textjob/ViewSettings.h"
 
 namespace morvane::app {
 namespace {
@@ -50,10 +50,10 @@ void frmMain::ReadGeometryAndMarks() {
   MainGeometry geometry;
   try {
     geometry = ReadGeometry(context_.settings);
-    ReadViewMarks(context_.settings, context_.viewOptions);
   } catch (const common::RunTimeError& error) {
     context_.prompts.MsgBox("MDIForm_Load-" + error.description());
   }
+  context_.viewOptions = textjob::ReadViewOptions(context_.settings.Read());
   ShowViewMarks();
   HoldMinimumSize();
   const QRect place = OnScreen(ToPixels(geometry));
@@ -117,8 +117,8 @@ void frmMain::WriteGeometryAndMarks() {
     add("MainWidth", common::PlainNumber(geometry.width));
     add("MainHeight", common::PlainNumber(geometry.height));
   }
-  for (const ViewMark& mark : ViewMarks()) {
-    add(mark.key, context_.viewOptions.*mark.flag ? "True" : "False");
+  for (common::SettingChange& change : textjob::ViewOptionChanges(context_.viewOptions)) {
+    changes.push_back(std::move(change));
   }
   try {
     context_.settings.Apply(changes);

@@ -19,6 +19,17 @@ class SystemInfo;
 class WaitWindow;
 }  // namespace morvane::platform
 
+namespace morvane::fonts {
+class GlyphCache;
+struct FontTable;
+}  // namespace morvane::fonts
+
+namespace morvane::textjob {
+struct PreviewState;
+struct TextJob;
+struct ViewOptions;
+}  // namespace morvane::textjob
+
 namespace morvane::widgets {
 class Windows;
 }
@@ -26,7 +37,6 @@ class Windows;
 namespace morvane::context {
 
 class StatusPanels;
-struct ViewOptions;
 
 struct AppContext {
   const common::Files& files;
@@ -42,7 +52,12 @@ struct AppContext {
   platform::Operations& operations;
   platform::PictureStore& pictures;
   StatusPanels& statusPanels;
-  ViewOptions& viewOptions;
+  textjob::ViewOptions& viewOptions;
+  // The one job of the process, and what its preview keeps.
+  textjob::TextJob& job;
+  textjob::PreviewState& previewState;
+  fonts::FontTable& font;
+  fonts::GlyphCache& glyphs;
   widgets::Windows& windows;
   // Ends every wait and transfer; set while the program closes.
   const bool& abortTransfers;

@@ -1,0 +1,124 @@
+#include "textjob/frmEdit.h"
+
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QPushButton>
+
+#include "common/FileNames.h"
+#include "context/AppContext.h"
+#include "context/StatusPanels.h"
+#include "platform/qt/QtText.h"
+#include "textjob/JobFile.h"
+#include "textjob/TextJob.h"
+#include "ui_frmEdit.h"
+#include "widgets/NotAvailable.h"
+
+namespace morvane::textjob {
+
+using platform::FromQt;
+using platform::ToQt;
+
+frmEdit::frmEdit(const context::AppContext& context, QWidget* parent)
+    : QWidget(parent),
+      context_(context),
+      ui_(std::make_unique<Ui::frmEdit>()),
+      document_(context.job, context.files, context.prompts, context.fileDialogs) {
+  ui_->setupUi(this);
+  ui_->pic->SetPictures(&context.pictures);
+  ui_->splitter->setStretchFactor(1, 1);
+  MarkMissingFunctions();
+  Connect();
+  context.job = {};
+  ShowJob();
+}
+
+frmEdit::~frmEdit() = default;
+
+void frmEdit::Connect() {
+  ui_->cmbFile->installEventFilter(this);
+  connect(ui_->cmbFile, &QComboBox::activated, this, &frmEdit::cmbFile_Click);
+  connect(ui_->cmbLine, &QListWidget::itemSelectionChanged, this, &frmEdit::cmbLine_Click);
+  connect(ui_->txtComments, &QLineEdit::textEdited, this, &frmEdit::txtComments_Change);
+  connect(ui_->cmdSave, &QPushButton::clicked, this, &frmEdit::cmdSave_Click);
+  connect(ui_->pic, &widgets::CanvasView::Pressed, this, &frmEdit::pic_MouseDown);
+  connect(ui_->pic, &widgets::CanvasView::MouseMoved, this, &frmEdit::pic_MouseMove);
+  connect(ui_->pic, &widgets::CanvasView::MouseLeft, this,
+          [this] { context_.statusPanels.SetText(context::Panel::Mouse, {}); });
+  // A pass may ask and wait, which a resize event must not.
+  connect(ui_->pic, &widgets::CanvasView::Resized, this, &frmEdit::DrawJob, Qt::QueuedConnection);
+}
+
+void frmEdit::MarkMissingFunctions() {
+  for (QPushButton* button : {ui_->cmdNewLine, ui_->cmdDeleteLine, ui_->cmdReorder, ui_->cmdOpenFile,
+                              ui_->cmdDownload, ui_->cmdDownloadRun, ui_->cmdUpload, ui_->CmdLockImage}) {
+    widgets::MarkNotAvailable(*button);
+  }
+}
+
+void frmEdit::OpenJob(const std::string& name) {
+  document_.Open(name);
+  ShowJob();
+}
+
+// What stands around the drawing of a job that was just loaded.
+void frmEdit::ShowJob() {
+  std::size_t selected = 0;
+  ui_->cmbFile->clear();
+  for (const std::string& name : JobList(context_.files, document_.Name(), selected)) {
+    ui_->cmbFile->addItem(ToQt(name));
+  }
+  ui_->cmbFile->setCurrentIndex(static_cast<int>(selected));
+  const QString name = ToQt(common::PathFileName(document_.Name()));
+  setWindowTitle(tr("Text Job - %1").arg(name) + "[*]");
+  context_.statusPanels.SetText(context::Panel::Job, name);
+  DrawJob();
+}
+
+bool frmEdit::LeaveJob() {
+  if (!context_.job.Dirty) return true;
+  const bool leave = document_.LeaveJob(true);
+  // A save may have given the job a name.
+  if (leave) ShowJob();
+  return leave;
+}
+
+void frmEdit::cmdSave_Click() {
+  if (document_.Save()) ShowJob();
+}
+
+void frmEdit::SaveJobAs() {
+  if (document_.SaveAs()) ShowJob();
+}
+
+void frmEdit::cmbFile_Click(int index) {
+  const std::string name = FromQt(ui_->cmbFile->itemText(index));
+  if (name == document_.Name()) return;
+  // A job that could not be saved stays.
+  if (!LeaveJob()) return ShowJob();
+  OpenJob(name);
+}
+
+void frmEdit::txtComments_Change(const QString& text) {
+  context_.job.Comment = FromQt(text);
+  context_.job.Dirty = true;
+  setWindowModified(true);
+}
+
+bool frmEdit::eventFilter(QObject* watched, QEvent* event) {
+  const bool focus = watched == ui_->cmbFile && event->type() == QEvent::FocusIn;
+  if (!focus || !context_.job.Dirty) return QWidget::eventFilter(watched, event);
+  // The focus also comes back from the list that drops down, and from the question itself.
+  const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+  if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) LeaveJob();
+  return QWidget::eventFilter(watched, event);
+}
+
+void frmEdit::closeEvent(QCloseEvent* event) {
+  if (!document_.LeaveJob(false)) return event->ignore();
+  context_.job = {};
+  context_.statusPanels.SetText(context::Panel::Job, {});
+  context_.statusPanels.SetText(context::Panel::Mouse, {});
+  event->accept();
+}
+
+}  // namespace morvane::textjob

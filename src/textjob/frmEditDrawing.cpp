@@ -1,0 +1,107 @@
+// The preview of the editor: drawing passes, selection, mouse.
+#include <QScopedValueRollback>
+
+#include "common/Settings.h"
+#include "context/AppContext.h"
+#include "context/StatusPanels.h"
+#include "platform/RecordingCanvas.h"
+#include "platform/qt/QtCanvas.h"
+#include "platform/qt/QtText.h"
+#include "textjob/PositionText.h"
+#include "textjob/Preview.h"
+#include "textjob/PreviewSettings.h"
+#include "textjob/Selection.h"
+#include "textjob/frmEdit.h"
+#include "ui_frmEdit.h"
+
+namespace morvane::textjob {
+
+void frmEdit::DrawJob() {
+  if (drawing_) {
+    drawAgain_ = true;
+    return;
+  }
+  do {
+    drawAgain_ = false;
+    RunPass();
+  } while (drawAgain_);
+}
+
+void frmEdit::RunPass(ClickSearch* search) {
+  const QScopedValueRollback<bool> guard(drawing_, true);
+  // Side programs of the pass keep the window alive, and another job may come in meanwhile.
+  const TextJob job = context_.job;
+  auto drawing = std::make_shared<platform::RecordingCanvas>();
+  const PreviewSources sources{context_.files,   context_.settings,  context_.clock, context_.locale,
+                               context_.prompts, context_.processes, context_.font,  context_.glyphs};
+  const PictureSize picture{static_cast<float>(std::max(ui_->pic->width(), 1)),
+                            static_cast<float>(std::max(ui_->pic->height(), 1))};
+  const PreviewRequest request{job, document_.Name(), context_.viewOptions, picture, search};
+  const PreviewResult result = textjob::DrawJob(sources, request, context_.previewState, *drawing);
+  ui_->pic->SetDrawing({[drawing](platform::Canvas& canvas) { drawing->Replay(canvas); }, result.view});
+  ShowLegend();
+  ShowLines(job, result);
+}
+
+void frmEdit::ShowLines(const TextJob& job, const PreviewResult& result) {
+  const QScopedValueRollback<bool> guard(filling_, true);
+  QListWidget& list = *ui_->cmbLine;
+  const int count = static_cast<int>(result.labels.size());
+  while (list.count() > count) delete list.takeItem(list.count() - 1);
+  while (list.count() < count) list.addItem(QString());
+  const std::vector<bool> selected = SelectedLines(job.Selection, result.labels.size());
+  for (int row = 0; row < count; ++row) {
+    const auto index = static_cast<std::size_t>(row);
+    list.item(row)->setText(platform::ToQt(result.labels[index]));
+    list.item(row)->setSelected(selected[index]);
+  }
+  if (result.current >= 0) list.setCurrentRow(result.current, QItemSelectionModel::NoUpdate);
+  const QString comment = platform::ToQt(job.Comment);
+  if (ui_->txtComments->text() != comment) ui_->txtComments->setText(comment);
+  setWindowModified(job.Dirty);
+}
+
+void frmEdit::ShowLegend() {
+  const PreviewSettings settings = ReadPreviewSettings(context_.settings.Read());
+  const std::pair<QLabel*, PreviewColor> entries[] = {{ui_->labDrawColor, kDrawColor},
+                                                      {ui_->labSelColor, kSelectedColor},
+                                                      {ui_->labToolColor, kToolPathColor},
+                                                      {ui_->labGridColor, kGridColor},
+                                                      {ui_->labRefColor, kReferenceColor}};
+  for (const auto& [label, color] : entries) {
+    QPixmap swatch(label->minimumSize());
+    swatch.fill(platform::ToQt(settings.colors[color]));
+    label->setPixmap(swatch);
+  }
+}
+
+void frmEdit::cmbLine_Click() {
+  if (filling_) return;
+  std::vector<int> lines;
+  for (int row = 0; row < ui_->cmbLine->count(); ++row) {
+    if (ui_->cmbLine->item(row)->isSelected()) lines.push_back(row);
+  }
+  context_.job.Selection = SelectLines(lines);
+  DrawJob();
+}
+
+void frmEdit::pic_MouseDown(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+  if (button != Qt::LeftButton || drawing_) return;
+  ClickSearch search{static_cast<float>(world.x()), static_cast<float>(world.y())};
+  RunPass(&search);
+  if (search.line >= 0) {
+    context_.job.Selection = modifiers.testFlag(Qt::ControlModifier)
+                                 ? ToggleLine(context_.job.Selection, search.line)
+                                 : SelectLines({search.line});
+  }
+  DrawJob();
+}
+
+void frmEdit::pic_MouseMove(const QPointF& world) {
+  const bool fixture = context_.viewOptions.Fixture && context_.previewState.fixture;
+  const std::string text = PositionText(world.x(), world.y(), context_.settings.UnitsFormatText(),
+                                        fixture ? &*context_.previewState.fixture : nullptr);
+  context_.statusPanels.SetText(context::Panel::Mouse, platform::ToQt(text));
+}
+
+}  // namespace morvane::textjob
