@@ -66,6 +66,14 @@ void Program::PrepareSettings() {
   }
 }
 
+// The working directory comes first, as a shell's user expects, then the base directory.
+std::string Program::JobArgument(const QString& file) const {
+  if (file.isEmpty()) return {};
+  const QFileInfo here(file);
+  if (here.exists()) return platform::PathFromQt(here.absoluteFilePath());
+  return files_.Resolve(platform::FromQt(file));
+}
+
 void Program::Start(const CommandLine& line) {
   std::unique_ptr<frmSplash> splash;
   if (line.splash && !developerMode_) {
@@ -73,7 +81,7 @@ void Program::Start(const CommandLine& line) {
     splash->show();
     clock_.Sleep(kSplashTime);
   }
-  const QString jobFile = line.jobFile.isEmpty() ? QString() : QDir::current().absoluteFilePath(line.jobFile);
+  const std::string job = JobArgument(line.jobFile);
   QDir::setCurrent(platform::PathToQt(files_.BaseDirectory()));
   frame_ = std::make_unique<frmMain>(context_, windows_);
   windows_.SetFrame(frame_.get());
@@ -81,7 +89,7 @@ void Program::Start(const CommandLine& line) {
   frame_->MDIForm_Load();
   splash.reset();
   frame_->show();
-  if (!jobFile.isEmpty()) windows_.OpenFile(platform::PathFromQt(jobFile));
+  if (!job.empty()) windows_.OpenFile(job);
 }
 
 }  // namespace morvane::app

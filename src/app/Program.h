@@ -43,6 +43,8 @@ class Program {
  private:
   void Start(const CommandLine& line);
   void PrepareSettings();
+  // Native path of the job on the command line; empty without one.
+  std::string JobArgument(const QString& file) const;
   // What stands beside the file list of an open dialog for G-code jobs.
   QWidget* PreviewPanel(QFileDialog& dialog);
 

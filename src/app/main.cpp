@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 
+#include "app/AppIcon.h"
 #include "app/Program.h"
 #include "app/Version.h"
 #include "platform/qt/QtText.h"
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(app::kTitle);
   QApplication::setApplicationVersion(app::VersionText());
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(app::AppIcon());
 
   const QString programDirectory = QApplication::applicationDirPath();
   const QString wanted = qEnvironmentVariable("MORVANE_BASE");
