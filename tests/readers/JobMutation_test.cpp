@@ -63,7 +63,7 @@ TEST(JobMutation, NoInputHarmsTheInterpreter) {
 
 TEST(JobMutation, ALineOfAnyLength) {
   test::RunHugeLine("G01X", "1", Measure);
-  test::RunHugeLine("M06T2\r\n", "\r", Measure);
+  test::RunHugeLine("M06T2\r\n", "a comment ", Measure);
   const auto edit = [](const std::string& bytes) { Show(bytes, Viewer::Editor); };
   test::RunHugeLine("G90\r\ng00x1y2\r\nG05T1I", "-1.5e", edit);
 }
