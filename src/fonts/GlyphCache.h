@@ -9,15 +9,26 @@
 
 namespace morvane::fonts {
 
+// A stop on the tool's way through a character, in its cell. Strokes that do not begin where the last one
+// ended are reached with the pen up.
+struct GlyphPoint {
+  float x = 0;
+  float y = 0;
+  std::uint32_t down = 0;  // 1: a stroke ends here; 0: the pen is set down here
+};
+
+using Glyph = std::vector<GlyphPoint>;
+
 class GlyphCache {
  public:
   explicit GlyphCache(const FontTable& table) : table_(table) {}
 
-  // As loadFontChar returns them, and with its errors. Valid until the font table changes.
-  const std::vector<FontSegment>& Get(unsigned char code, bool forward, bool wide);
+  // The way through the strokes that loadFontChar returns, and with its errors. Valid until the font table
+  // changes.
+  const Glyph& Get(unsigned char code, bool forward, bool wide);
 
  private:
-  using Glyphs = std::array<std::unique_ptr<std::vector<FontSegment>>, kFontCodes>;
+  using Glyphs = std::array<std::unique_ptr<Glyph>, kFontCodes>;
 
   const FontTable& table_;
   std::uint64_t version_ = 0;

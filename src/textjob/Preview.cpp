@@ -8,7 +8,6 @@
 #include "recipes/modFixture.h"
 #include "textjob/LockImages.h"
 #include "textjob/PreviewLine.h"
-#include "textjob/modTjb.h"
 
 namespace morvane::textjob {
 namespace {
@@ -98,15 +97,15 @@ PenOptions PenOptionsOf(const PreviewSettings& settings, const PreviewRequest& r
   return options;
 }
 
-void DrawLines(PassContext& pass, const TextJob& job, PreviewResult& result) {
+void DrawLines(PassContext& pass, const TextJob& job, ParsedLines& lines, PreviewResult& result) {
   const std::vector<bool> selected = SelectedLines(job.Selection, job.LineCount());
   result.labels.reserve(job.LineCount());
   for (std::size_t i = 0; i < job.LineCount(); ++i) {
-    TextJobLine line = ParseTjbLine(job.Lines[i]);
+    const TextJobLine& line = lines.Get(i, job.Lines[i]);
     const auto index = static_cast<int>(i);
     result.labels.push_back("Line " + common::PlainNumber(std::int32_t{index + 1}) + ": " + LineLabel(line));
     if (selected[i]) result.current = index;
-    DrawLine(pass, index, std::move(line), selected[i]);
+    DrawLine(pass, index, line, selected[i]);
   }
 }
 
@@ -130,7 +129,7 @@ PreviewResult DrawJob(const PreviewSources& sources, const PreviewRequest& reque
   if (request.options.GridLines) DrawGrid(settings.gridSpacing, result.view, gridPen, pen);
 
   PassContext pass{sources, settings, request.options, fixture, pen};
-  DrawLines(pass, request.job, result);
+  DrawLines(pass, request.job, state.lines, result);
   if (request.options.ToolPath) pen.PenMove(0, 0, settings.colors[kDrawColor], false);
   return result;
 }

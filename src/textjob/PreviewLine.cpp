@@ -70,6 +70,19 @@ constexpr Drawer kDrawers[kLineTypeCount] = {
     DrawRasterLine,      // Raster
 };
 
+void DrawPlaced(PassContext& pass, const TextJobLine& line, bool selected) {
+  const auto& colors = pass.settings.colors;
+  if (line.Type != kStartPosition && (selected || pass.options.ReferenceMarks)) {
+    DrawCross(pass, line, colors[selected ? kSelectedColor : kReferenceColor]);
+  }
+  if (line.Type < 0 || line.Type >= kLineTypeCount) return;
+  try {
+    kDrawers[line.Type](pass, line, colors[selected ? kSelectedColor : kDrawColor]);
+  } catch (const common::RunTimeError&) {
+    // A line that cannot be drawn is left out; the pass goes on with the next one.
+  }
+}
+
 }  // namespace
 
 std::string LineLabel(const TextJobLine& line) {
@@ -83,21 +96,16 @@ std::string LineLabel(const TextJobLine& line) {
   }
 }
 
-void DrawLine(PassContext& pass, int index, TextJobLine line, bool selected) {
-  const auto& colors = pass.settings.colors;
+void DrawLine(PassContext& pass, int index, const TextJobLine& line, bool selected) {
   pass.pen.SetLine(index);
-  if (pass.fixture && pass.fixture->Type == recipes::kFixtureIndex) {
-    line.YPos += static_cast<float>(line.Side - 1) * pass.fixture->Flat;
+  if (!pass.fixture || pass.fixture->Type != recipes::kFixtureIndex) {
+    DrawPlaced(pass, line, selected);
+    return;
   }
-  if (line.Type != kStartPosition && (selected || pass.options.ReferenceMarks)) {
-    DrawCross(pass, line, colors[selected ? kSelectedColor : kReferenceColor]);
-  }
-  if (line.Type < 0 || line.Type >= kLineTypeCount) return;
-  try {
-    kDrawers[line.Type](pass, line, colors[selected ? kSelectedColor : kDrawColor]);
-  } catch (const common::RunTimeError&) {
-    // A line that cannot be drawn is left out; the pass goes on with the next one.
-  }
+  // Each side of the polygon has its own strip.
+  TextJobLine placed = line;
+  placed.YPos += static_cast<float>(line.Side - 1) * pass.fixture->Flat;
+  DrawPlaced(pass, placed, selected);
 }
 
 }  // namespace morvane::textjob

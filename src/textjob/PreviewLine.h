@@ -30,6 +30,6 @@ struct PassContext {
 std::string LineLabel(const TextJobLine& line);
 
 // Draws line `index`. A file that cannot be read leaves out what it would show, never the pass.
-void DrawLine(PassContext& pass, int index, TextJobLine line, bool selected);
+void DrawLine(PassContext& pass, int index, const TextJobLine& line, bool selected);
 
 }  // namespace morvane::textjob

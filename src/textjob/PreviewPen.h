@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "fonts/GlyphCache.h"
 #include "platform/Canvas.h"
 #include "textjob/PreviewState.h"
 
@@ -58,10 +59,9 @@ class PreviewPen {
     if (!(pen == pen_) || count_ == kBatch) Start(pen);
     batch_[count_++] = segment;
   }
-  // Strokes of a character: pen-up to the start of each that does not begin where the last one ended,
-  // then pen-down to its end. `place` turns a point of the cell into one of the job.
-  template <typename Strokes, typename Place>
-  void Draw(const Strokes& strokes, const Place& place, platform::Color color);
+  // The moves through a character. `place` turns a point of the cell into one of the job.
+  template <typename Place>
+  void Draw(const fonts::Glyph& glyph, const Place& place, platform::Color color);
   void Flush();
 
  private:
@@ -73,6 +73,9 @@ class PreviewPen {
     if (options_.search) HitTest(segment.x1, segment.y1, x, y);
     if (options_.grid) AddCopies(segment);
   }
+  // What is marked alone, at full speed.
+  template <typename Place>
+  void Mark(const fonts::Glyph& glyph, Place place, const platform::Pen& pen);
   void Start(const platform::Pen& pen);
   void AddCopies(const platform::Segment& segment);
 
@@ -86,32 +89,36 @@ class PreviewPen {
   std::size_t pieces_ = 0;
 };
 
-template <typename Strokes, typename Place>
-void PreviewPen::Draw(const Strokes& strokes, const Place& place, platform::Color color) {
+template <typename Place>
+void PreviewPen::Draw(const fonts::Glyph& glyph, const Place& place, platform::Color color) {
+  if (glyph.empty()) return;
   // Most passes only mark: then nothing but the points is looked at.
-  const bool plain = !options_.showToolPath && !options_.search && !options_.grid;
-  const platform::Pen pen{color, options_.lineWidth};
-  if (plain && (!(pen == pen_) || count_ + strokes.size() > kBatch)) Start(pen);
+  if (!options_.showToolPath && !options_.search && !options_.grid) {
+    Mark(glyph, place, {color, options_.lineWidth});
+    return;
+  }
+  for (const fonts::GlyphPoint& stop : glyph) {
+    const auto point = place(stop.x, stop.y);
+    PenMove(point.x, point.y, color, stop.down != 0);
+  }
+}
+
+template <typename Place>
+void PreviewPen::Mark(const fonts::Glyph& glyph, const Place place, const platform::Pen& pen) {
+  if (!(pen == pen_) || count_ + glyph.size() >= kBatch) Start(pen);
+  platform::Segment* out = batch_.data() + count_;
   float x = 0;
   float y = 0;
-  for (std::size_t i = 0; i < strokes.size(); ++i) {
-    const auto& stroke = strokes[i];
-    if (i == 0 || stroke.X1 != strokes[i - 1].X2 || stroke.Y1 != strokes[i - 1].Y2) {
-      const auto start = place(stroke.X1, stroke.Y1);
-      x = start.x;
-      y = start.y;
-      if (!plain) PenMove(x, y, color, false);
-    }
-    const auto end = place(stroke.X2, stroke.Y2);
-    if (plain) {
-      batch_[count_++] = {x, y, end.x, end.y};
-    } else {
-      PenMove(end.x, end.y, color, true);
-    }
-    x = end.x;
-    y = end.y;
+  for (const fonts::GlyphPoint& stop : glyph) {
+    const auto point = place(stop.x, stop.y);
+    // A pen-up stop is written over by the next one: no branch to mispredict.
+    *out = {x, y, point.x, point.y};
+    out += stop.down;
+    x = point.x;
+    y = point.y;
   }
-  if (!strokes.empty()) Put(x, y);
+  count_ = static_cast<std::size_t>(out - batch_.data());
+  Put(x, y);
 }
 
 }  // namespace morvane::textjob

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "recipes/Fixture.h"
+#include "textjob/ParsedLines.h"
 
 namespace morvane::textjob {
 
@@ -21,6 +22,7 @@ struct PreviewState {
   float PenY = 0;
   // The fixture read last. One that can't be read leaves it as it was.
   std::optional<recipes::Fixture> fixture;
+  ParsedLines lines;
 };
 
 }  // namespace morvane::textjob

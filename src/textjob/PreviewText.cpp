@@ -8,7 +8,6 @@
 namespace morvane::textjob {
 namespace {
 
-using fonts::FontSegment;
 using gcode::Point;
 
 constexpr double kRadiansPerDegree = 3.14159265358979 / 180;
@@ -31,70 +30,75 @@ Cell CellOf(const TextDrawing& drawing) {
   return {width, line.Height, width, 0, false};
 }
 
-// Where a character's cell stands, and the turn of its points: counter-clockwise on the display about a
-// pivot. One matrix serves all points of the character, since they turn by the same angle.
-struct Placement {
-  double left = 0;
-  double top = 0;
-  Point pivot;
-  double cosine = 1;
-  double sine = 0;
+// From a point of a character's cell to one of the job. Characters turn as a whole, so one matrix serves
+// all points of one.
+struct CellMatrix {
+  double x = 0;
+  double y = 0;
+  double xx = 0;
+  double xy = 0;
+  double yx = 0;
+  double yy = 0;
 
-  void Turn(float degrees) {
-    cosine = std::cos(degrees * kRadiansPerDegree);
-    sine = std::sin(degrees * kRadiansPerDegree);
-  }
-
-  auto Matrix(const Cell& cell) const {
-    const double dx = left - pivot.x;
-    const double dy = top - pivot.y;
-    const double x = pivot.x + dx * cosine + dy * sine;
-    const double y = pivot.y + dy * cosine - dx * sine;
-    return [x, y, xx = cell.width * cosine, xy = cell.height * sine, yx = -cell.width * sine,
-            yy = cell.height * cosine](float atX, float atY) {
-      return Point{static_cast<float>(x + atX * xx + atY * xy), static_cast<float>(y + atX * yx + atY * yy)};
-    };
+  Point operator()(float atX, float atY) const {
+    return {static_cast<float>(x + atX * xx + atY * xy), static_cast<float>(y + atX * yx + atY * yy)};
   }
 };
+
+// A cell whose left top corner stands at `left`, `top`, turned counter-clockwise on the display about a
+// pivot.
+CellMatrix Place(const Cell& cell, double left, double top, Point pivot, float degrees) {
+  const double cosine = degrees == 0 ? 1 : std::cos(degrees * kRadiansPerDegree);
+  const double sine = degrees == 0 ? 0 : std::sin(degrees * kRadiansPerDegree);
+  const double dx = left - pivot.x;
+  const double dy = top - pivot.y;
+  return {pivot.x + dx * cosine + dy * sine,
+          pivot.y + dy * cosine - dx * sine,
+          cell.width * cosine,
+          cell.height * sine,
+          -cell.width * sine,
+          cell.height * cosine};
+}
 
 // One layout run: it places the character number `i`, from 0.
 class Layout {
  public:
   Layout(const TextDrawing& drawing, const Cell& cell, float radius)
-      : line_(drawing.line), cell_(cell), length_(drawing.text.size()), radius_(radius) {
-    if (line_.Style == kArcText) {
-      center_ = gcode::StepBack(line_.XPos, line_.YPos, line_.Angle, radius_);
-    } else {
-      center_ = {line_.XPos, line_.YPos};
-    }
-    straight_.top = line_.YPos;
-    straight_.pivot = center_;
-    if (line_.Angle != 0) straight_.Turn(line_.Angle);
-    first_ = line_.XPos - Offset();
+      : line_(drawing.line), cell_(cell), length_(static_cast<double>(drawing.text.size())), radius_(radius) {
+    const Point position{line_.XPos, line_.YPos};
+    onCircle_ = line_.Style == kArcText || line_.Style == kRadiusText;
+    center_ =
+        line_.Style == kArcText ? gcode::StepBack(position.x, position.y, line_.Angle, radius_) : position;
+    if (onCircle_) return;
+    const double left = line_.XPos - Offset();
+    first_ = Place(cell_, left, line_.YPos, position, line_.Angle);
+    const CellMatrix second = Place(cell_, left + cell_.advance, line_.YPos, position, line_.Angle);
+    stepX_ = second.x - first_.x;
+    stepY_ = second.y - first_.y;
   }
 
-  Placement Of(std::size_t i) const {
-    if (line_.Style == kRegular || line_.Style == kAngular) {
-      Placement placement = straight_;
-      placement.left = first_ + static_cast<double>(i) * cell_.advance;
-      return placement;
-    }
-    const double middle = cell_.advance * (static_cast<double>(length_) - 1) / 2;
-    const auto along = static_cast<float>(cell_.advance * static_cast<double>(i) - middle);
-    const gcode::ArcStep step = gcode::StepAroundArc(line_.Angle, radius_, along);
-    Placement placement;
-    placement.pivot = {step.x + center_.x, center_.y - step.y};
-    placement.left = placement.pivot.x - cell_.width / 2;
-    placement.top = placement.pivot.y - cell_.height;
-    placement.Turn(step.tangent);
-    return placement;
+  CellMatrix Of(std::size_t i) const {
+    const auto n = static_cast<double>(i);
+    if (onCircle_) return OnCircle(n);
+    CellMatrix matrix = first_;
+    matrix.x += n * stepX_;
+    matrix.y += n * stepY_;
+    return matrix;
   }
 
  private:
+  // The middle of the character's baseline sits on the circle.
+  CellMatrix OnCircle(double n) const {
+    const double middle = cell_.advance * (length_ - 1) / 2;
+    const auto along = static_cast<float>(cell_.advance * n - middle);
+    const gcode::ArcStep step = gcode::StepAroundArc(line_.Angle, radius_, along);
+    const Point point{step.x + center_.x, center_.y - step.y};
+    return Place(cell_, point.x - cell_.width / 2, point.y - cell_.height, point, step.tangent);
+  }
+
   // From the first cell's left to the line's position. The last advance has no spacing behind it.
   double Offset() const {
-    const auto length = static_cast<double>(length_);
-    const double total = cell_.wide ? cell_.advance * (length - 1) + cell_.width : cell_.advance * length;
+    const double total = cell_.wide ? cell_.advance * (length_ - 1) + cell_.width : cell_.advance * length_;
     switch (line_.Justify) {
       case kCenter:
         return total / 2;
@@ -107,11 +111,13 @@ class Layout {
 
   const TextJobLine& line_;
   const Cell& cell_;
-  std::size_t length_;
+  double length_;
   float radius_;
+  bool onCircle_ = false;
   Point center_;
-  Placement straight_;
-  double first_ = 0;
+  CellMatrix first_;  // straight text: the first character, and the step to the next
+  double stepX_ = 0;
+  double stepY_ = 0;
 };
 
 class TextRun {
@@ -124,9 +130,9 @@ class TextRun {
     const Layout layout = NextLayout();
     for (std::size_t n = 0; n < drawing_.text.size(); ++n) {
       const std::size_t i = IndexOf(n, forward);
-      const auto& glyph = Glyph(i, forward);
+      const fonts::Glyph& glyph = GlyphOf(i, forward);
       if (glyph.empty()) continue;
-      const Point first = layout.Of(i).Matrix(cell_)(glyph[0].X1, glyph[0].Y1);
+      const Point first = layout.Of(i)(glyph[0].x, glyph[0].y);
       return std::hypot(first.x - pen.X(), first.y - pen.Y());
     }
     return 0;
@@ -136,8 +142,7 @@ class TextRun {
     const Layout layout = NextLayout();
     for (std::size_t n = 0; n < drawing_.text.size(); ++n) {
       const std::size_t i = IndexOf(n, forward);
-      const auto& glyph = Glyph(i, forward);
-      if (!glyph.empty()) pen.Draw(glyph, layout.Of(i).Matrix(cell_), drawing_.color);
+      pen.Draw(GlyphOf(i, forward), layout.Of(i), drawing_.color);
     }
   }
 
@@ -156,7 +161,7 @@ class TextRun {
     return forward ? n : drawing_.text.size() - 1 - n;
   }
 
-  const std::vector<FontSegment>& Glyph(std::size_t i, bool forward) {
+  const fonts::Glyph& GlyphOf(std::size_t i, bool forward) {
     return glyphs_.Get(static_cast<unsigned char>(drawing_.text[i]), forward, cell_.wide);
   }
 

@@ -33,15 +33,8 @@ constexpr std::array<const TjbField*, kTjbTokenCount> ByPlace() {
   return tokens;
 }
 
-constexpr int kTextPlace = 9;
-constexpr int kPromptPlace = 15;
-
 }  // namespace
 
 const std::array<const TjbField*, kTjbTokenCount> kTjbTokens = ByPlace();
-
-std::string_view TjbDelimiter(int place) {
-  return place == kTextPlace || place == kPromptPlace ? "@@," : ",";
-}
 
 }  // namespace morvane::textjob

@@ -30,6 +30,12 @@ extern const std::array<TjbField, kTjbFieldCount> kTjbFields;
 extern const std::array<const TjbField*, kTjbTokenCount> kTjbTokens;
 
 // Text and Prompt end in "@@,", so that they can hold commas; all others end in ",".
-std::string_view TjbDelimiter(int place);
+inline constexpr int kTextPlace = 9;
+inline constexpr int kPromptPlace = 15;
+inline constexpr int kDepthPlace = 13;  // one or two numbers
+
+inline std::string_view TjbDelimiter(int place) {
+  return place == kTextPlace || place == kPromptPlace ? "@@," : ",";
+}
 
 }  // namespace morvane::textjob

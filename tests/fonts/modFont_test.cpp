@@ -124,11 +124,17 @@ TEST_F(FontFile, RoundTripOf255Lines) {
 
 TEST_F(FontFile, TheGlyphCacheFollowsTheTable) {
   GlyphCache glyphs(table);
-  ReadFont("1:0,0,1,1\n", table);
-  EXPECT_EQ(Show(glyphs.Get(1, true, false)), "0 0 1 1;");
-  EXPECT_EQ(Show(glyphs.Get(1, false, false)), "1 1 0 0;");
+  const auto show = [&](bool forward) {
+    std::ostringstream out;
+    for (const GlyphPoint& p : glyphs.Get(1, forward, false))
+      out << (p.down ? "-" : " ") << p.x << ',' << p.y;
+    return out.str();
+  };
+  ReadFont("1:0,0,1,1;1,1,2,1;5,5,6,6\n", table);
+  EXPECT_EQ(show(true), " 0,0-1,1-2,1 5,5-6,6");
+  EXPECT_EQ(show(false), " 6,6-5,5 2,1-1,1-0,0");
   ReadFont("1:2,2,3,3\n", table);
-  EXPECT_EQ(Show(glyphs.Get(1, true, false)), "2 2 3 3;");
+  EXPECT_EQ(show(true), " 2,2-3,3");
 }
 
 // The fonts that come with the program are complete and stay inside what the preview expects.
