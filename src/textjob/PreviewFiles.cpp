@@ -22,8 +22,8 @@ void DrawFile(PassContext& pass, const TextJobLine& line, const GraphicPlacement
   DrawGraphic(pass.sources.files.ReadInside(line.Text), placement, color, pass.pen);
 }
 
+// The pen is at the rectangle's first corner.
 void DrawRectangle(PreviewPen& pen, const platform::Rectangle& box, platform::Color color) {
-  pen.PenMove(box.x, box.y, color, false);
   pen.PenMove(box.x + box.width, box.y, color, true);
   pen.PenMove(box.x + box.width, box.y + box.height, color, true);
   pen.PenMove(box.x, box.y + box.height, color, true);
@@ -49,6 +49,7 @@ void DrawPlaceholder(PreviewPen& pen, const TextJobLine& line, const datamatrix:
                      platform::Color color) {
   const datamatrix::SymbolSize size = datamatrix::PlaceholderSize(file.Density);
   const float spacing = datamatrix::ModuleSpacing(file);
+  pen.PenMove(line.XPos, line.YPos, color, false);
   DrawRectangle(pen,
                 {line.XPos, line.YPos, static_cast<float>(size.columns) * spacing,
                  static_cast<float>(size.rows) * spacing},

@@ -286,6 +286,11 @@ TEST_F(Preview, PanelsSymbolsAndRasters) {
   EXPECT_NEAR(station.canvas.Boxes()[2].box.x, 2.1F, 1e-6);
   EXPECT_NEAR(station.canvas.Boxes()[2].box.y, 2.1F, 1e-6);
   EXPECT_EQ(station.canvas.Boxes()[2].color, kCyan);
+  ViewOptions path;
+  path.ToolPath = true;
+  station.state = {};
+  station.Draw({"5,1,1,0,,0,0,0,0,p.pan@@,"}, path);
+  ExpectLines(Lines(kGreen, 1), {{0, 0, 1, 1}, {1, 1, 0, 0}});
 
   station.Put("AUTO.DM", "Automatic\r\n0\r\n.1\r\n1\r\n\r\n\r\n\r\n\r\n\r\nABC@ENDDM@");
   station.ExpectEnd(3);
