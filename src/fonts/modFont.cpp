@@ -17,9 +17,13 @@ constexpr std::string_view kExtension = ".FNT";
 // Marks an extreme that no coordinate has set yet.
 constexpr float kNotSet = -1.0F;
 
-std::string FontFile(const std::string& name, const common::Files& files) {
-  if (files.FileExists(name)) return name;
-  return common::FileBaseName(name) + std::string(kExtension);
+// Native path of the font's file. Throws for a document's name that leads out of the base directory.
+std::string FontFile(const std::string& name, FontOrigin origin, const common::Files& files) {
+  const auto resolved = [&](const std::string& file) {
+    return origin == FontOrigin::Document ? files.ResolveInside(file) : files.Resolve(file);
+  };
+  std::string path = resolved(name);
+  return files.FileExists(path) ? path : resolved(common::FileBaseName(name) + std::string(kExtension));
 }
 
 void StretchToCell(std::vector<FontSegment>& segments) {
@@ -51,13 +55,14 @@ void ReadFont(std::string_view bytes, FontTable& table) {
 bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, const common::Files& files,
               platform::Prompts& prompts) {
   table.FontName = name;
+  std::string file;
   try {
-    if (origin == FontOrigin::Document) files.ResolveInside(name);
+    file = FontFile(name, origin, files);
   } catch (const RunTimeError&) {
     return false;
   }
   try {
-    ReadFont(files.Read(FontFile(name, files)), table);
+    ReadFont(files.Read(file), table);
     return true;
   } catch (const RunTimeError& error) {
     prompts.MsgBox("Font File Error: " + error.description());

@@ -2,14 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
 
 #include "common/RunTimeError.h"
 #include "fonts/GlyphCache.h"
+#include "platform/posix/PosixFileSystem.h"
 #include "support/FakeFileSystem.h"
 #include "support/FakePrompts.h"
+#include "support/TempFolder.h"
 
 namespace morvane::fonts {
 namespace {
@@ -110,6 +113,24 @@ TEST_F(FontFile, FailuresKeepTheNewNameAndTheOldEntries) {
   fileSystem.faults.bytesLeft = 5;
   EXPECT_FALSE(SaveFont(table, "A.FNT", files, prompts));
   EXPECT_EQ(prompts.Texts(), (std::vector<std::string>{"Font File Error: File not found", "Disk full"}));
+}
+
+// The name itself may be missing or look harmless while the file it stands for lies elsewhere.
+TEST(FontLinks, NoSpellingLeadsADocumentOut) {
+  const test::TempFolder folder;
+  std::filesystem::create_directories(folder / "outside/inner");
+  std::filesystem::create_directory(folder / "base");
+  folder.Write("outside/SECRET.FNT", "1:secret\r\n");
+  std::filesystem::create_symlink(folder / "outside/SECRET.FNT", folder / "base/A.FNT");
+  std::filesystem::create_directory_symlink(folder / "outside/inner", folder / "base/LINK");
+  platform::PosixFileSystem disk;
+  const common::Files files(disk, folder / "base");
+  for (const char* name : {"A", "A.FNT", "A.XYZ", "LINK\\..\\SECRET.FNT", "LINK\\..\\SECRET"}) {
+    FontTable table;
+    test::FakePrompts prompts;
+    LoadFont(table, name, FontOrigin::Document, files, prompts);
+    EXPECT_EQ(table.FontChars[1], "") << name;
+  }
 }
 
 TEST_F(FontFile, RoundTripOf255Lines) {
