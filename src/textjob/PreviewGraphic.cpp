@@ -1,109 +1,68 @@
 #include "textjob/PreviewGraphic.h"
 
-#include <algorithm>
-
 #include "common/Lines.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
-#include "common/Text.h"
-#include "common/Tokenizer.h"
 #include "gcode/Geometry.h"
+#include "gcode/Statement.h"
 
 namespace morvane::textjob {
 namespace {
 
 using gcode::Point;
+using gcode::Statement;
 
 constexpr float kDotRadius = 0.01F;
-constexpr std::size_t kWordLength = 4;  // "G00X"
 
+// Draws the statements that this reader knows: moves with X, arcs, turns and dots.
 class GraphicReader {
  public:
   GraphicReader(const GraphicPlacement& placement, platform::Color color, PreviewPen& pen)
       : placement_(placement), color_(color), pen_(pen) {}
 
-  void Read(std::string_view line) {
-    for (const Statement& statement : kStatements) {
-      if (!common::StartsWith(line, statement.word)) continue;
-      (this->*statement.action)(line.substr(std::min(line.size(), kWordLength)));
-      return;
+  void Draw(const Statement& statement) {
+    if (statement.broken) throw common::RunTimeError(common::kSubscriptOutOfRange);
+    switch (statement.word) {
+      case gcode::Word::Move:
+        if (statement.hasX) MoveTo(Place(statement.x, statement.y), statement.feed);
+        break;
+      case gcode::Word::Arc:
+        Walk(gcode::ArcTo(Pen(), Place(statement.x, statement.y), Place(statement.cx, statement.cy),
+                          statement.clockwise));
+        break;
+      case gcode::Word::Turn:
+        Turn(gcode::TurnAbout(Pen(), Place(statement.cx, statement.cy), statement.x));
+        break;
+      case gcode::Word::Wait:
+        pen_.Surface().Circle(pen_.X(), pen_.Y(), kDotRadius, {color_, pen_.LineWidth()});
+        break;
+      default:
+        break;
     }
   }
 
  private:
-  using Action = void (GraphicReader::*)(std::string_view rest);
-  struct Statement {
-    std::string_view word;
-    Action action;
-  };
-  static const Statement kStatements[6];
+  Point Pen() const { return {pen_.X(), pen_.Y()}; }
 
-  Point Place(std::string_view x, std::string_view y) const {
-    Point point{common::ParseSingle(x) * placement_.scaleX, common::ParseSingle(y) * placement_.scaleY};
+  Point Place(float x, float y) const {
+    Point point{x * placement_.scaleX, y * placement_.scaleY};
     if (placement_.rotate != 0) point = gcode::RotateAbout(0, 0, point.x, point.y, -placement_.rotate);
     return {point.x + placement_.x, point.y + placement_.y};
   }
 
-  Point PlaceMove(std::string_view rest) const {
-    common::TokenScan scan(rest);
-    const std::string_view x = scan.Next("Y");
-    return Place(x, scan.Next(""));
-  }
-
-  void Rapid(std::string_view rest) {
-    const Point point = PlaceMove(rest);
-    pen_.PenMove(point.x, point.y, color_, false);
-  }
-
-  void Feed(std::string_view rest) {
-    const Point point = PlaceMove(rest);
-    pen_.PenMove(point.x, point.y, color_, true);
-  }
-
-  // Text up to a letter that must be there.
-  static std::string_view Required(common::TokenScan& scan, std::string_view letter) {
-    bool atEnd = false;
-    const std::string_view token = scan.Next(letter, atEnd);
-    if (atEnd) throw common::RunTimeError(common::kSubscriptOutOfRange);
-    return token;
-  }
-
-  void Arc(std::string_view rest, bool clockwise) {
-    common::TokenScan scan(rest);
-    const std::string_view x = Required(scan, "Y");
-    const std::string_view y = Required(scan, "I");
-    const std::string_view i = Required(scan, "J");
-    Walk(gcode::ArcTo({pen_.X(), pen_.Y()}, Place(x, y), Place(i, scan.Next("")), clockwise));
-  }
-  void Clockwise(std::string_view rest) { Arc(rest, true); }
-  void CounterClockwise(std::string_view rest) { Arc(rest, false); }
-
-  void Turns(std::string_view rest) {
-    common::TokenScan scan(rest);
-    const float turns = common::ParseSingle(Required(scan, "I"));
-    const std::string_view i = Required(scan, "J");
-    const gcode::Turn turn = gcode::TurnAbout({pen_.X(), pen_.Y()}, Place(i, scan.Next("P")), turns);
-    Walk(turn.path);
-    pen_.Put(turn.end.x, turn.end.y);
-  }
-
-  void Dot(std::string_view /*rest*/) {
-    pen_.Surface().Circle(pen_.X(), pen_.Y(), kDotRadius, {color_, pen_.LineWidth()});
-  }
+  void MoveTo(Point point, bool draw) { pen_.PenMove(point.x, point.y, color_, draw); }
 
   void Walk(const gcode::ArcPath& path) {
-    gcode::WalkArc(path, [this](Point point) { pen_.PenMove(point.x, point.y, color_, true); });
+    gcode::WalkArc(path, [this](Point point) { MoveTo(point, true); });
+  }
+
+  void Turn(const gcode::Turn& turn) {
+    Walk(turn.path);
+    pen_.Put(turn.end.x, turn.end.y);
   }
 
   const GraphicPlacement& placement_;
   platform::Color color_;
   PreviewPen& pen_;
-};
-
-const GraphicReader::Statement GraphicReader::kStatements[6] = {
-    {"G00X", &GraphicReader::Rapid},     {"G01X", &GraphicReader::Feed},
-    {"G02X", &GraphicReader::Clockwise}, {"G03X", &GraphicReader::CounterClockwise},
-    {"G05T", &GraphicReader::Turns},     {"W", &GraphicReader::Dot},
 };
 
 }  // namespace
@@ -114,7 +73,7 @@ void DrawGraphic(std::string_view bytes, const GraphicPlacement& placement, plat
   common::Lines lines(bytes);
   std::string_view line;
   try {
-    while (lines.Next(line)) reader.Read(line);
+    while (lines.Next(line)) reader.Draw(gcode::ParseStatement(line));
   } catch (const common::RunTimeError&) {
     // What was drawn stays; a job's file fails silently.
   }

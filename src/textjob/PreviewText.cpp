@@ -1,7 +1,6 @@
 #include "textjob/PreviewText.h"
 
 #include <cmath>
-#include <optional>
 
 #include "gcode/Geometry.h"
 
@@ -17,17 +16,16 @@ struct Cell {
   float width = 0;
   float height = 0;
   float advance = 0;
-  float spacing = 0;
   bool wide = false;  // characters fill the cell
 };
 
 Cell CellOf(const TextDrawing& drawing) {
   const TextJobLine& line = drawing.line;
   if (drawing.proFonts && line.Width != 0) {
-    return {line.Width, line.Height, line.Width + line.Spacing, line.Spacing, true};
+    return {line.Width, line.Height, line.Width + line.Spacing, true};
   }
   const float width = line.Height * line.Compress;
-  return {width, line.Height, width, 0, false};
+  return {width, line.Height, width, false};
 }
 
 // From a point of a character's cell to one of the job. Characters turn as a whole, so one matrix serves
