@@ -20,8 +20,8 @@ std::optional<std::string_view> IniValue(std::string_view bytes, std::string_vie
 // `limit` characters.
 std::string IniSectionText(std::string_view bytes, std::string_view section, std::size_t limit);
 
-// False for names that the file cannot hold: empty ones, keys that begin with ";" or "[", sections with
-// "]".
+// False for names that the file cannot hold: empty ones, keys that begin with ";", "[" or "=", sections
+// with "]".
 bool IniCanHold(std::string_view section, std::string_view key);
 
 // The file with the key set. A new key goes behind the last line of its section that is not empty, a new

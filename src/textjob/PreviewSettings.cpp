@@ -1,14 +1,10 @@
 #include "textjob/PreviewSettings.h"
 
-#include <algorithm>
-
 #include "common/Numbers.h"
 #include "common/SettingDefaults.h"
 
 namespace morvane::textjob {
 namespace {
-
-constexpr int kWidestLine = 100;
 
 float Single(const common::SettingsSnapshot& settings, const char* key, const char* fallback) {
   return common::ParseSingle(settings.Get(common::kSettingsSection, key, fallback));
@@ -25,9 +21,8 @@ PreviewSettings ReadPreviewSettings(const common::SettingsSnapshot& settings) {
   for (std::size_t i = 0; i < read.colors.size(); ++i) {
     read.colors[i] = common::ReadColor(settings, static_cast<int>(i));
   }
-  read.lineWidth = std::clamp(common::ParseInt32(settings.Get(common::kSettingsSection, "LineWidth", "2")), 1,
-                              kWidestLine);
-  read.referenceLength = Single(settings, "ReferenceLength", ".020");
+  read.lineWidth = common::ReadLineWidth(settings);
+  read.referenceLength = common::ReadReferenceLength(settings);
   read.gridSpacing = Single(settings, "GridSpacing", "1");
   read.proFonts = IsOn(settings, "ProFonts");
   read.useImageSize = IsOn(settings, "UseImageSize");
