@@ -20,7 +20,7 @@ namespace {
 
 // A closed window lives on, hidden, while an operation runs.
 bool IsOpen(const QPointer<MdiChild>& child) {
-  return !child.isNull() && child->isVisible();
+  return !child.isNull() && !child->isHidden();
 }
 
 template <typename T>

@@ -29,10 +29,27 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
       fileDialogs_(prompts_, files_, dialogFolders_),
       windows_(context_),
       waitWindow_(windows_),
-      context_{files_,        settings_,       processRunner_, clock_,        locale_,     systemInfo_,
-               prompts_,      fileDialogs_,    waitWindow_,    statusPanels_, operations_, pictures_,
-               statusPanels_, viewOptions_,    job_,           previewState_, font_,       glyphs_,
-               windows_,      abortTransfers_, developerMode_} {
+      context_{.files = files_,
+               .settings = settings_,
+               .processes = processRunner_,
+               .clock = clock_,
+               .locale = locale_,
+               .systemInfo = systemInfo_,
+               .prompts = prompts_,
+               .fileDialogs = fileDialogs_,
+               .waitWindow = waitWindow_,
+               .progress = statusPanels_,
+               .operations = operations_,
+               .pictures = pictures_,
+               .statusPanels = statusPanels_,
+               .viewOptions = viewOptions_,
+               .job = job_,
+               .previewState = previewState_,
+               .font = font_,
+               .glyphs = glyphs_,
+               .windows = windows_,
+               .abortTransfers = abortTransfers_,
+               .developerMode = developerMode_} {
   prompts_.SetSidePanel("job", [this](QFileDialog& dialog) { return PreviewPanel(dialog); });
 }
 

@@ -14,6 +14,7 @@
 #include "app/MenuTable.h"
 #include "app/Version.h"
 #include "common/Files.h"
+#include "common/Numbers.h"
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
@@ -42,7 +43,10 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   setAcceptDrops(true);
 }
 
-frmMain::~frmMain() = default;
+// The child windows go after this, and would still tell which of them is active.
+frmMain::~frmMain() {
+  area_->disconnect(this);
+}
 
 void frmMain::MDIForm_Load() {
   context_.files.ClearTemp();
@@ -71,7 +75,7 @@ void frmMain::Refresh() {
   findChild<QMenu*>("mnuProduction")->menuAction()->setVisible(get("EnableProduction", "0") == "1");
   windows_.RedrawActiveJob();
   constexpr int kNetwork = 5;
-  const int port = static_cast<int>(settings.Number(common::kSettingsSection, "ComPort", "1"));
+  const int port = common::ParseInt32(get("ComPort", "1"));
   context_.statusPanels.SetText(context::Panel::Connection, port == kNetwork ? platform::ToQt(get("IP", ""))
                                                                              : "COM" + QString::number(port));
 }
@@ -92,7 +96,7 @@ MdiChild* frmMain::AddChild(QWidget* form) {
 
 QWidget* frmMain::ActiveForm() const {
   const QMdiSubWindow* child = area_->currentSubWindow();
-  return child != nullptr && child->isVisible() ? child->widget() : nullptr;
+  return child != nullptr && !child->isHidden() ? child->widget() : nullptr;
 }
 
 QAction* frmMain::Entry(const char* name) const {

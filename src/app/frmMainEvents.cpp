@@ -100,7 +100,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 bool frmMain::UnloadForms() {
   for (QMdiSubWindow* child : area_->subWindowList(QMdiArea::CreationOrder)) {
-    if (child->isVisible() && !child->close()) return false;
+    if (!child->isHidden() && !child->close()) return false;
   }
   return true;
 }

@@ -1,36 +1,51 @@
 #include "platform/qt/LineClip.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace morvane::platform {
 namespace {
 
-// Liang-Barsky for one edge: narrows [from, to] to where the line is inside.
-bool Narrow(double direction, double distance, double& from, double& to) {
-  if (direction == 0) return distance >= 0;
-  const double at = distance / direction;
-  if (direction < 0) {
-    from = std::max(from, at);
-  } else {
-    to = std::min(to, at);
-  }
-  return from <= to;
+struct End {
+  double along = 0;   // the coordinate that is held
+  double across = 0;  // the other one
+};
+
+void CutEnd(End& end, const End& other, double limit) {
+  if (end.along <= limit) return;
+  end.across += (limit - end.along) * ((other.across - end.across) / (other.along - end.along));
+  end.along = limit;
+}
+
+// Cuts what lies above the limit; false when that is all.
+bool Cut(End& a, End& b, double limit) {
+  if (a.along > limit && b.along > limit) return false;
+  CutEnd(a, b, limit);
+  CutEnd(b, a, limit);
+  return true;
+}
+
+// Cuts what lies beyond the limit on both sides.
+bool CutBoth(End& a, End& b) {
+  if (!Cut(a, b, kPainterLimit)) return false;
+  a.along = -a.along;
+  b.along = -b.along;
+  const bool inside = Cut(a, b, kPainterLimit);
+  a.along = -a.along;
+  b.along = -b.along;
+  return inside;
 }
 
 }  // namespace
 
 bool ClipLine(QLineF& line) {
-  const double dx = line.dx();
-  const double dy = line.dy();
-  if (!std::isfinite(dx) || !std::isfinite(dy)) return false;
-  double from = 0;
-  double to = 1;
-  if (!Narrow(-dx, line.x1() + kPainterLimit, from, to) || !Narrow(dx, kPainterLimit - line.x1(), from, to) ||
-      !Narrow(-dy, line.y1() + kPainterLimit, from, to) || !Narrow(dy, kPainterLimit - line.y1(), from, to)) {
-    return false;
-  }
-  line.setLine(line.x1() + from * dx, line.y1() + from * dy, line.x1() + to * dx, line.y1() + to * dy);
+  if (!std::isfinite(line.dx()) || !std::isfinite(line.dy())) return false;
+  End a{line.x1(), line.y1()};
+  End b{line.x2(), line.y2()};
+  if (!CutBoth(a, b)) return false;
+  std::swap(a.along, a.across);
+  std::swap(b.along, b.across);
+  if (!CutBoth(a, b)) return false;
+  line.setLine(a.across, a.along, b.across, b.along);
   return true;
 }
 

@@ -1,0 +1,225 @@
+#include "app/frmMain.h"
+
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QToolButton>
+
+#include "app/MdiChild.h"
+#include "fonts/frmFontView.h"
+#include "gcode/frmGraphic.h"
+#include "support/qt_WindowStation.h"
+#include "textjob/frmEdit.h"
+
+namespace morvane::test {
+namespace {
+
+TEST(frmMain, TitleMenusAndTempAsLoaded) {
+  WindowStation station;
+  std::filesystem::create_directory(station.folder / "Temp");
+  station.folder.Write("Temp/tmp.lst", "left by a crash");
+  app::frmMain& frame = station.Load();
+  EXPECT_EQ(frame.windowTitle(), "Morvane V1.0.0");
+  EXPECT_FALSE(std::filesystem::exists(station.folder / "Temp/tmp.lst"));
+  EXPECT_FALSE(station.abort);
+  EXPECT_EQ(station.Active<textjob::frmEdit>().objectName(), "frmEdit");
+  EXPECT_FALSE(Find<QMenu>(frame, "mnuProduction").menuAction()->isVisible());
+  for (const char* name : {"mnuSetupRebootMachine", "mnuSetupAutoTest", "mnuGraphicOpenLastJob"}) {
+    EXPECT_FALSE(station.Entry(name).isVisible()) << name;
+  }
+}
+
+TEST(frmMain, GeometryIsInTwipsAndHeldAtItsLeast) {
+  struct Case {
+    const char *left, *top, *width, *height;
+    QRect pixels;
+  };
+  const Case cases[] = {{"", "", "", "", {67, 67, 1000, 533}},
+                        {"1500", "900.4", "18000", "9000", {100, 60, 1200, 600}},
+                        {"15", "15", "300", "20", {1, 1, 1000, 533}},
+                        {"-900", "0", "15000", "8000", {-60, 0, 1000, 533}}};
+  for (const Case& c : cases) {
+    WindowStation station;
+    for (const auto& [key, value] : {std::pair{"MainLeft", c.left}, std::pair{"MainTop", c.top},
+                                     std::pair{"MainWidth", c.width}, std::pair{"MainHeight", c.height}}) {
+      if (*value != '\0') station.Set(key, value);
+    }
+    app::frmMain& frame = station.Load();
+    EXPECT_EQ(frame.pos(), c.pixels.topLeft()) << c.left;
+    EXPECT_EQ(frame.size(), c.pixels.size()) << c.width;
+    frame.resize(200, 100);
+    EXPECT_EQ(frame.size(), QSize(1000, 533)) << "springs back";
+    EXPECT_TRUE(station.prompts.boxes.empty());
+  }
+}
+
+TEST(frmMain, BadGeometryIsReportedAndTheDefaultsStand) {
+  for (const auto& [value, message] :
+       {std::pair{"wide", "MDIForm_Load-Type mismatch"}, std::pair{"1e300", "MDIForm_Load-Overflow"}}) {
+    WindowStation station;
+    station.Set("MainLeft", "3000");
+    station.Set("MainWidth", value);
+    app::frmMain& frame = station.Load();
+    EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{message});
+    EXPECT_EQ(QRect(frame.pos(), frame.size()), QRect(67, 67, 1000, 533));
+  }
+}
+
+TEST(frmMain, WhatItLeavesBehind) {
+  WindowStation station;
+  station.Set("ViewGridLines", "True");
+  app::frmMain& frame = station.Load();
+  EXPECT_TRUE(station.Entry("mnuViewGridLines").isChecked());
+  station.Entry("mnuViewGridLines").trigger();
+  station.Entry("mnuViewFixture").trigger();
+  station.folder.Write("Temp/queue.ret", "x");
+  frame.move(30, 40);
+  frame.resize(1100, 640);
+  bool unloaded = false;
+  QObject::connect(&frame, &app::frmMain::Unloaded, [&] { unloaded = true; });
+  station.Entry("mnuFileExit").trigger();
+  EXPECT_TRUE(unloaded);
+  EXPECT_TRUE(station.abort);
+  const std::pair<const char*, const char*> kept[] = {{"MainLeft", "450"},
+                                                      {"MainTop", "600"},
+                                                      {"MainWidth", "16500"},
+                                                      {"MainHeight", "9600"},
+                                                      {"ViewGridLines", "False"},
+                                                      {"ViewFixture", "True"},
+                                                      {"ViewToolPath", "False"},
+                                                      {"ViewReferenceMarks", "False"},
+                                                      {"ViewBackgroundImage", "False"}};
+  for (const auto& [key, value] : kept) EXPECT_EQ(station.Get(key), value) << key;
+  EXPECT_FALSE(std::filesystem::exists(station.folder / "Temp/queue.ret"));
+}
+
+TEST(frmMain, AMinimizedWindowKeepsItsStoredPlace) {
+  WindowStation station;
+  station.Set("MainLeft", "2000");
+  app::frmMain& frame = station.Load();
+  frame.showMinimized();
+  frame.close();
+  EXPECT_EQ(station.Get("MainLeft"), "2000");
+  EXPECT_EQ(station.Get("MainWidth"), "");
+}
+
+TEST(frmMain, AFormThatMustStayKeepsTheProgram) {
+  WindowStation station;
+  station.folder.Write("A.TJB", "COMMENT,old\r\n");
+  app::frmMain& frame = station.Load();
+  station.windows.OpenFile(station.folder / "A.TJB");
+  station.job.Comment = "new";
+  station.job.Dirty = true;
+  std::filesystem::remove_all(station.folder / "A.TJB");
+  std::filesystem::create_directory(station.folder / "A.TJB");  // nothing can be saved there
+  station.prompts.answers.push_back(platform::Answer::Yes);
+  frame.close();
+  EXPECT_TRUE(frame.isVisible());
+  EXPECT_FALSE(station.abort) << "the program goes on";
+  EXPECT_EQ(station.job.Comment, "new");
+  station.prompts.answers.push_back(platform::Answer::No);
+  frame.close();
+  EXPECT_FALSE(frame.isVisible());
+}
+
+TEST(frmMain, StatusPanels) {
+  WindowStation station;
+  app::frmMain& frame = station.Load();
+  auto& connection = Find<QToolButton>(frame, "panelConnection");
+  auto& job = Find<QToolButton>(frame, "panelJob");
+  EXPECT_EQ(connection.text(), "COM1");
+  struct Case {
+    const char *port, *ip, *text;
+  };
+  for (const Case& c : {Case{"3", "", "COM3"}, Case{"5", "", ""}, Case{"5", "10.0.0.7", "10.0.0.7"},
+                        Case{"junk", "", "COM0"}, Case{"99999999999", "", "COM2147483647"}}) {
+    station.Set("ComPort", c.port);
+    station.Set("IP", c.ip);
+    station.Entry("mnuViewRefresh").trigger();
+    EXPECT_EQ(connection.text(), c.text) << c.port;
+  }
+  job.click();
+  EXPECT_EQ(frame.statusBar()->currentMessage(), "") << "ignored without production";
+  connection.click();
+  EXPECT_NE(frame.statusBar()->currentMessage(), "");
+  frame.statusBar()->clearMessage();
+  station.Set("EnableProduction", "1");
+  station.Entry("mnuViewRefresh").trigger();
+  EXPECT_TRUE(Find<QMenu>(frame, "mnuProduction").menuAction()->isVisible());
+  job.click();
+  EXPECT_NE(frame.statusBar()->currentMessage(), "");
+
+  auto& bar = Find<QProgressBar>(frame, "panelProgress");
+  station.context.progress.Set(1, 4);
+  EXPECT_TRUE(bar.isVisible());
+  EXPECT_EQ(bar.value() * 4, bar.maximum());
+  station.context.progress.Set(5, 0);
+  EXPECT_EQ(bar.maximum(), 0) << "the end is not known";
+  station.context.progress.Clear();
+  EXPECT_FALSE(bar.isVisible());
+}
+
+TEST(frmMain, DroppedAndRecentFilesOpenInTheirWindows) {
+  WindowStation station;
+  station.folder.Write("A.TJB", "COMMENT,dropped\r\n");
+  station.folder.Write("B.job", "G01X1Y1\r\n");
+  station.folder.Write("C.fnt", "1:\r\n");
+  station.folder.Write("D.txt", "");
+  app::frmMain& frame = station.Load();
+  QMimeData data;
+  QList<QUrl> urls;
+  for (const char* name : {"A.TJB", "B.job", "C.fnt", "D.txt"}) {
+    urls << QUrl::fromLocalFile(QString::fromStdString(station.folder / name));
+  }
+  data.setUrls(urls);
+  QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&frame, &enter);
+  ASSERT_TRUE(enter.isAccepted());
+  QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&frame, &drop);
+  EXPECT_EQ(station.job.Comment, "") << "the source of the drag waits";
+  WindowStation::Pump();
+  EXPECT_EQ(station.job.Comment, "dropped");
+  EXPECT_EQ(Find<QToolButton>(frame, "panelJob").text(), "A.TJB");
+  EXPECT_EQ(Find<QLineEdit>(station.Active<fonts::frmFontView>(), "txtJob").text(), "C.fnt");
+  EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 1);
+
+  auto& file = Find<QMenu>(frame, "mnuFile");
+  emit file.aboutToShow();
+  const QList<QAction*> recent = Find<QMenu>(frame, "mnuFileRecent").actions();
+  QStringList names;
+  for (const QAction* action : recent) names << action->text();
+  EXPECT_EQ(names, QStringList({"&1 C.fnt", "&2 B.job", "&3 A.TJB"}));
+  recent[1]->trigger();
+  EXPECT_EQ(station.Active<gcode::frmGraphic>().windowTitle(), "Job Viewer - B.job");
+  EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 2) << "a viewer is new for each opening";
+}
+
+TEST(frmMain, SingleWindowsAreMadeOnceAndAnewAfterTheyWereClosed) {
+  WindowStation station;
+  app::frmMain& frame = station.Load();
+  station.Entry("mnuFontView").trigger();
+  station.Entry("mnuFileEdit").trigger();
+  station.Entry("mnuFontView").trigger();
+  EXPECT_EQ(frame.findChildren<fonts::frmFontView*>().size(), 1);
+  EXPECT_FALSE(station.Entry("mnuFileSave").isEnabled()) << "the editor is not active";
+  station.Entry("mnuFileEdit").trigger();
+  EXPECT_TRUE(station.Entry("mnuFileSave").isEnabled());
+  station.Entry("mnuFileClose").trigger();
+  {
+    // While something runs, the closed editor lives on unseen, and a new one takes its place.
+    const platform::Operations::Scope scope(station.operations);
+    station.Entry("mnuFileEdit").trigger();
+    station.Entry("mnuFileClose").trigger();
+    station.Entry("mnuFileEdit").trigger();
+    EXPECT_EQ(station.Active<textjob::frmEdit>().objectName(), "frmEdit");
+  }
+  WindowStation::Pump();
+  EXPECT_EQ(frame.findChildren<textjob::frmEdit*>().size(), 1);
+}
+
+}  // namespace
+}  // namespace morvane::test

@@ -1,0 +1,51 @@
+#include "support/qt_WindowStation.h"
+
+namespace morvane::test {
+
+WindowStation::WindowStation()
+    : context{.files = files,
+              .settings = settings,
+              .processes = runner,
+              .clock = clock,
+              .locale = locale,
+              .systemInfo = systemInfo,
+              .prompts = prompts,
+              .fileDialogs = dialogs,
+              .waitWindow = waitWindow,
+              .progress = panels,
+              .operations = operations,
+              .pictures = pictures,
+              .statusPanels = panels,
+              .viewOptions = viewOptions,
+              .job = job,
+              .previewState = previewState,
+              .font = font,
+              .glyphs = glyphs,
+              .windows = windows,
+              .abortTransfers = abort,
+              .developerMode = developer} {
+  clock.onWait = [this](int) {
+    const platform::Operations::Scope scope(operations);
+    QCoreApplication::processEvents();
+  };
+}
+
+WindowStation::~WindowStation() = default;
+
+app::frmMain& WindowStation::Load() {
+  frame_ = std::make_unique<app::frmMain>(context, windows);
+  windows.SetFrame(frame_.get());
+  frame_->MDIForm_Load();
+  frame_->show();
+  Pump();
+  return *frame_;
+}
+
+void WindowStation::Pump() {
+  for (int round = 0; round < 5; ++round) {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+}  // namespace morvane::test
