@@ -62,7 +62,10 @@ int GcodeMeasure(Environment& environment, const Arguments& arguments) {
   const std::string text = environment.files.Read(environment.FileArgument(arguments[0]));
   const gcode::GcodeProgram program = gcode::ReadProgram(text);
   const gcode::Distances distances = gcode::MeasureDistances(program);
-  const gcode::Extents extents = gcode::GetExtents(program, {}).Extents;
+  // The viewer that knows no tools: a tool out of range does not end its pass.
+  gcode::PassOptions pass;
+  pass.viewer = gcode::Viewer::Preview;
+  const gcode::Extents extents = gcode::GetExtents(program, pass).Extents;
   JsonLine line;
   line.Add("move", common::ToSingle(distances.move)).Add("feed", common::ToSingle(distances.feed));
   line.Add("total", common::ToSingle(distances.move + distances.feed));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+
 namespace morvane::gcode {
 namespace {
 
@@ -34,7 +35,7 @@ void GcodeProgram::DropLast() {
 GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals) {
   GcodeProgram program;
   Word previous = Word::Unknown;
-  for (std::uint32_t line = 1; !text.empty(); ++line) {
+  for (std::uint32_t line = 1; !text.empty() && program.Size() < kMaxStatements; ++line) {
     Statement& statement = program.Append();
     SkipLine(text, ReadStatement(text, foldToCapitals, statement));
     if (statement.word == Word::Unknown && previous != Word::Tool) {

@@ -10,6 +10,9 @@
 
 namespace morvane::gcode {
 
+// A program holds at most this many statements, 240 MB; what stands behind them is left out.
+inline constexpr std::size_t kMaxStatements = 10'000'000;
+
 // Kept in blocks: a large job grows without moving what is there.
 class GcodeProgram {
  public:
