@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/Numbers.h"
+#include "common/Text.h"
 
 namespace morvane::common {
 namespace {
@@ -71,10 +72,11 @@ void RoundDigits(double magnitude, std::size_t places, std::string& whole, std::
 
 }  // namespace
 
-std::string FormatPicture(double value, std::string_view text) {
+std::string FormatPicture(double value, std::string_view written) {
+  const std::string text = ReplaceAll(written, ",", "");
   if (text.empty()) return PlainNumber(ToSingle(value));
   const Picture picture = Read(text);
-  if (picture.whole.empty() && picture.fraction.empty()) return std::string(text);
+  if (picture.whole.empty() && picture.fraction.empty()) return text;
   if (!std::isfinite(value)) value = 0;
 
   std::string whole;

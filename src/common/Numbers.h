@@ -38,8 +38,8 @@ std::string ExactNumber(float value);
 
 // A picture such as "0.000", "0.00##", "#.###", "00.0": `0` always shows a digit, `#` shows one unless
 // it would be a leading or trailing zero. Half rounds away from zero; a value that rounds to zero has no
-// sign. Characters before the first and behind the last placeholder are copied. An empty picture
-// gives the plain number.
+// sign. Characters before the first and behind the last placeholder are copied, but no comma: it would end
+// the number's field in a job line. An empty picture gives the plain number.
 std::string FormatPicture(double value, std::string_view picture);
 
 }  // namespace morvane::common

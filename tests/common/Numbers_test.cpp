@@ -141,6 +141,7 @@ TEST(Numbers, Pictures) {
       {2.5, "0.0 mm", "2.5 mm"},
       {1.005, "0.00", "1.00"},
       {1, "abc", "abc"},
+      {1234.5, "#,##0.00", "1234.50"},
   };
   for (const auto& c : cases)
     EXPECT_EQ(FormatPicture(c.value, c.picture), c.text) << c.value << " " << c.picture;
