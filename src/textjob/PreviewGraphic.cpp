@@ -72,11 +72,7 @@ void DrawGraphic(std::string_view bytes, const GraphicPlacement& placement, plat
   GraphicReader reader(placement, color, pen);
   common::Lines lines(bytes);
   std::string_view line;
-  try {
-    while (lines.Next(line)) reader.Draw(gcode::ParseStatement(line));
-  } catch (const common::RunTimeError&) {
-    // What was drawn stays; a job's file fails silently.
-  }
+  while (lines.Next(line)) reader.Draw(gcode::ParseStatement(line));
 }
 
 }  // namespace morvane::textjob

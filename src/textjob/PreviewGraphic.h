@@ -15,8 +15,8 @@ struct GraphicPlacement {
   float rotate = 0;  // degrees, clockwise on the display
 };
 
-// Draws the statements of a file in their order; lines that are none are skipped. An arc that lacks a
-// word, or leaves the range of the numbers, ends the drawing of this file.
+// Draws the statements of a file in their order; lines that are none are skipped. Throws at an arc that
+// lacks a word or leaves the range of the numbers; what was drawn before it stays.
 void DrawGraphic(std::string_view bytes, const GraphicPlacement& placement, platform::Color color,
                  PreviewPen& pen);
 
