@@ -24,23 +24,12 @@ namespace {
 
 constexpr int kLargestPicture = 20000;
 
-struct ViewWord {
-  std::string_view word;
-  bool textjob::ViewOptions::*mark;
-};
-
-constexpr ViewWord kViewWords[] = {
-    {"toolpath", &textjob::ViewOptions::ToolPath},          {"grid", &textjob::ViewOptions::GridLines},
-    {"marks", &textjob::ViewOptions::ReferenceMarks},       {"fixture", &textjob::ViewOptions::Fixture},
-    {"background", &textjob::ViewOptions::BackgroundImage},
-};
-
 textjob::ViewOptions ReadView(const std::string& text) {
   textjob::ViewOptions view;
   for (const std::string& word : common::SplitText(text, ",")) {
     bool known = false;
-    for (const ViewWord& entry : kViewWords) {
-      if (entry.word != word) continue;
+    for (const textjob::ViewMark& entry : textjob::kViewMarks) {
+      if (word != entry.word) continue;
       view.*entry.mark = true;
       known = true;
     }

@@ -81,7 +81,7 @@ std::optional<Entry> FindEntry(std::string_view bytes, std::string_view section,
   return std::nullopt;
 }
 
-std::string OneLine(std::string_view text) {
+std::string WithoutControls(std::string_view text) {
   std::string result(text);
   result.erase(
       std::remove_if(result.begin(), result.end(), [](char c) { return static_cast<unsigned char>(c) < 32; }),
@@ -125,7 +125,7 @@ std::string IniSectionText(std::string_view bytes, std::string_view section, std
 }
 
 bool IniCanHold(std::string_view section, std::string_view key) {
-  const std::string keyLine = OneLine(key);
+  const std::string keyLine = WithoutControls(key);
   const std::string_view name = Trimmed(keyLine);
   return !Trimmed(section).empty() && section.find(']') == std::string_view::npos && !name.empty() &&
          name.front() != ';' && name.front() != '[' && name.front() != '=';
@@ -133,9 +133,9 @@ bool IniCanHold(std::string_view section, std::string_view key) {
 
 std::string IniWith(std::string_view bytes, std::string_view section, std::string_view key,
                     std::string_view value) {
-  const std::string newValue = OneLine(value);
-  const std::string newSection = OneLine(section);
-  const std::string newKey = OneLine(key);
+  const std::string newValue = WithoutControls(value);
+  const std::string newSection = WithoutControls(section);
+  const std::string newKey = WithoutControls(key);
   if (const std::optional<Entry> entry = FindEntry(bytes, newSection, newKey)) {
     const auto begin = static_cast<std::size_t>(entry->value.data() - bytes.data());
     return std::string(bytes.substr(0, begin))
@@ -156,7 +156,7 @@ std::string IniWith(std::string_view bytes, std::string_view section, std::strin
 }
 
 std::string IniWithout(std::string_view bytes, std::string_view section, std::string_view key) {
-  const std::optional<Entry> entry = FindEntry(bytes, section, OneLine(key));
+  const std::optional<Entry> entry = FindEntry(bytes, section, WithoutControls(key));
   if (!entry) return std::string(bytes);
   return std::string(bytes.substr(0, entry->lineBegin)).append(bytes.substr(entry->lineEnd));
 }

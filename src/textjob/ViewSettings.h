@@ -8,18 +8,19 @@
 
 namespace morvane::textjob {
 
-// The key and the mark of each entry: the one table of menu, settings and command line.
+// The key, the mark and the command line's word of each entry: the one table of all three.
 struct ViewMark {
   const char* key;
   bool ViewOptions::*mark;
+  const char* word;
 };
 
 inline constexpr ViewMark kViewMarks[] = {
-    {"ViewToolPath", &ViewOptions::ToolPath},
-    {"ViewGridLines", &ViewOptions::GridLines},
-    {"ViewReferenceMarks", &ViewOptions::ReferenceMarks},
-    {"ViewBackgroundImage", &ViewOptions::BackgroundImage},
-    {"ViewFixture", &ViewOptions::Fixture},
+    {"ViewToolPath", &ViewOptions::ToolPath, "toolpath"},
+    {"ViewGridLines", &ViewOptions::GridLines, "grid"},
+    {"ViewReferenceMarks", &ViewOptions::ReferenceMarks, "marks"},
+    {"ViewBackgroundImage", &ViewOptions::BackgroundImage, "background"},
+    {"ViewFixture", &ViewOptions::Fixture, "fixture"},
 };
 
 // Text that is no boolean leaves a mark off.
