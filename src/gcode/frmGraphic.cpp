@@ -41,7 +41,7 @@ frmGraphic::frmGraphic(const context::AppContext& context, const std::string& na
 frmGraphic::~frmGraphic() = default;
 
 void frmGraphic::AddSwatches() {
-  constexpr int kRows = 2;
+  constexpr int kColumns = 8;
   for (int index = 0; index < kToolCount; ++index) {
     auto* button = new QToolButton(this);
     button->setObjectName(QString("picColor%1").arg(index));
@@ -52,7 +52,7 @@ void frmGraphic::AddSwatches() {
     button->setToolTip(tr("Show tool %1 alone").arg(index + 1));
     button->setAccessibleName(tr("Tool %1").arg(index + 1));
     swatches_->addButton(button, index);
-    ui_->swatches->addWidget(button, index % kRows, index / kRows);
+    ui_->swatches->addWidget(button, index / kColumns, index % kColumns);
   }
   swatches_->button(0)->setChecked(true);
   connect(swatches_, &QButtonGroup::idClicked, this, &frmGraphic::picColor_Click);

@@ -59,19 +59,35 @@ void QtCanvas::Clear() {
 void QtCanvas::UsePen(const Pen& pen) {
   if (pen_ == pen) return;
   pen_ = pen;
-  QPen wanted(ToQt(pen.color), std::max(pen.width, 1) * surface_.ratio);
-  if (lines_ < surface_.smoothLines) wanted.setCapStyle(Qt::RoundCap);
+  const double width = std::max(pen.width, 1) * surface_.ratio;
+  oddWidth_ = std::lround(width) % 2 == 1;
+  QPen wanted(ToQt(pen.color), width);
+  if (Smooth()) wanted.setCapStyle(Qt::RoundCap);
   painter_.setPen(wanted);
   painter_.setBrush(Qt::NoBrush);
 }
 
 // A drawing of many lines is a texture, and has to be fast.
 void QtCanvas::CountLines(std::size_t count) {
-  const bool smooth = lines_ < surface_.smoothLines;
+  const bool smooth = Smooth();
   lines_ += count;
-  if (!smooth || lines_ < surface_.smoothLines) return;
+  if (smooth == Smooth()) return;
   painter_.setRenderHint(QPainter::Antialiasing, false);
   pen_.reset();
+}
+
+// Smoothing would spread a level or upright line over one pixel too many, at half its colour.
+void QtCanvas::Sharpen(QLineF& line) const {
+  const auto center = [this](double value) {
+    return oddWidth_ ? std::floor(value) + 0.5 : std::round(value);
+  };
+  if (line.y1() == line.y2()) {
+    const double y = center(line.y1());
+    line.setLine(line.x1(), y, line.x2(), y);
+  } else if (line.x1() == line.x2()) {
+    const double x = center(line.x1());
+    line.setLine(x, line.y1(), x, line.y2());
+  }
 }
 
 void QtCanvas::Lines(const Pen& pen, const Segment* segments, std::size_t count) {
@@ -84,6 +100,7 @@ void QtCanvas::Lines(const Pen& pen, const Segment* segments, std::size_t count)
     QLineF line(X(segment.x1), Y(segment.y1), X(segment.x2), Y(segment.y2));
     const bool inside = Inside(line.x1()) && Inside(line.y1()) && Inside(line.x2()) && Inside(line.y2());
     if (!inside && !ClipLine(line)) continue;
+    if (Smooth()) Sharpen(line);
     batch_.push_back(line);
     if (batch_.size() < kBatch) continue;
     painter_.drawLines(batch_.data(), static_cast<int>(batch_.size()));

@@ -44,7 +44,9 @@ class QtCanvas : public Canvas {
   double Y(double y) const { return (y - top_) * scaleY_; }
   QRectF Place(const Rectangle& rectangle) const;
   void UsePen(const Pen& pen);
+  bool Smooth() const { return lines_ < surface_.smoothLines; }
   void CountLines(std::size_t count);
+  void Sharpen(QLineF& line) const;
   void UseView(const CanvasView& view);
 
   QPainter& painter_;
@@ -52,6 +54,7 @@ class QtCanvas : public Canvas {
   PictureStore& pictures_;
   std::optional<Pen> pen_;
   std::size_t lines_ = 0;
+  bool oddWidth_ = true;  // of the pen, in device pixels
   std::vector<QLineF> batch_;
   bool held_ = false;
   double left_ = 0;

@@ -1,0 +1,102 @@
+#include "textjob/JobDocument.h"
+
+#include <gtest/gtest.h>
+
+#include "support/FakeFileSystem.h"
+#include "support/FakePrompts.h"
+#include "textjob/PositionText.h"
+#include "textjob/Selection.h"
+
+namespace morvane::test {
+namespace {
+
+using platform::Answer;
+
+class JobDocumentTest : public ::testing::Test {
+ protected:
+  JobDocumentTest() { fileSystem_.Put("/base/A.TJB", "COMMENT,first\r\n4,1,2\r\n"); }
+
+  FakeFileSystem fileSystem_{"/base"};
+  FakePrompts prompts_;
+  common::Files files_{fileSystem_, "/base"};
+  common::DialogFolders folders_;
+  common::FileDialogs dialogs_{prompts_, files_, folders_};
+  textjob::TextJob job_;
+  textjob::JobDocument document_{job_, files_, prompts_, dialogs_};
+};
+
+TEST_F(JobDocumentTest, ANewJobAsksForItsNameAndIsReadAnew) {
+  job_.Lines = {"4,1,1", ""};
+  job_.Dirty = true;
+  prompts_.files.push_back({"/base/NEWJOB.TJB"});
+  EXPECT_TRUE(document_.Save());
+  EXPECT_EQ(document_.Name(), "NEWJOB.TJB");
+  EXPECT_EQ(prompts_.requests.at(0).title, "Save File As");
+  EXPECT_EQ(prompts_.requests.at(0).filter, "TJB Files|*.TJB|All Files|*.*");
+  EXPECT_EQ(prompts_.requests.at(0).fileName, "");
+  EXPECT_EQ(fileSystem_.Get("/base/NEWJOB.TJB"), "COMMENT,\r\n4,1,1\r\n\r\n");
+  EXPECT_EQ(job_.LineCount(), 1U) << "blank lines vanish";
+  EXPECT_FALSE(job_.Dirty);
+}
+
+TEST_F(JobDocumentTest, NamesThatTheControllerCannotHoldAreRefused) {
+  document_.Open("A.TJB");
+  prompts_.files = {{"/base/MUCHTOOLONG.TJB"}, {""}};
+  EXPECT_FALSE(document_.SaveAs());
+  EXPECT_EQ(prompts_.Texts(), std::vector<std::string>{"Name is longer than 8 characters"});
+  EXPECT_FALSE(document_.SaveAs()) << "no name was given";
+  EXPECT_EQ(prompts_.requests.at(0).fileName, "A.TJB");
+  EXPECT_EQ(document_.Name(), "A.TJB");
+}
+
+TEST_F(JobDocumentTest, LeavingAChangedJob) {
+  struct Case {
+    Answer answer;
+    bool forget, writable, leaves, dirty;
+  };
+  for (const Case& c :
+       {Case{Answer::No, true, true, true, false}, Case{Answer::No, false, true, true, true},
+        Case{Answer::Yes, true, true, true, false}, Case{Answer::Yes, true, false, false, true}}) {
+    fileSystem_.SetWritable("/base/A.TJB", true);
+    document_.Open("A.TJB");
+    EXPECT_TRUE(document_.LeaveJob(true)) << "nothing to ask";
+    job_.Comment = "second";
+    job_.Dirty = true;
+    fileSystem_.SetWritable("/base/A.TJB", c.writable);
+    prompts_.boxes.clear();
+    prompts_.answers = {c.answer};
+    EXPECT_EQ(document_.LeaveJob(c.forget), c.leaves);
+    EXPECT_EQ(job_.Dirty, c.dirty);
+    EXPECT_EQ(job_.Comment, "second");
+    EXPECT_EQ(prompts_.boxes.at(0).text, "Do you want to save this job?");
+    EXPECT_EQ(prompts_.boxes.at(0).buttons, platform::Buttons::YesNo);
+    if (!c.leaves) {
+      EXPECT_EQ(prompts_.boxes.at(1).text, "Save(A.TJB) Permission denied");
+    }
+  }
+}
+
+TEST(Selection, ListsOfLines) {
+  EXPECT_EQ(textjob::SelectLines({}), "");
+  EXPECT_EQ(textjob::SelectLines({3, 7, 8}), "3,7,8");
+  const char* const toggles[][3] = {{"", "4", "4"}, {"4", "4", ""}, {"3,7,8", "7", "3,8"}, {"8", "3", "8,3"}};
+  for (const auto& [before, line, after] : toggles) {
+    EXPECT_EQ(textjob::ToggleLine(before, std::atoi(line)), after);
+  }
+}
+
+TEST(PositionText, InTheUsersPictureAndWithTheSide) {
+  recipes::Fixture index;
+  index.Type = recipes::kFixtureIndex;
+  index.Flat = 2;
+  EXPECT_EQ(textjob::PositionText(1.2344, -2, "0.000", nullptr), "1.234 , -2.000");
+  EXPECT_EQ(textjob::PositionText(1, 3.9, "0.0", &index), "1.0 , 3.9 Side 2");
+  EXPECT_EQ(textjob::PositionText(1, 4, "0.0", &index), "1.0 , 4.0 Side 3");
+  index.Flat = 0;
+  EXPECT_EQ(textjob::PositionText(1, 4, "0.0", &index), "1.0 , 4.0");
+  index.Type = recipes::kFixtureRotary;
+  EXPECT_EQ(textjob::PositionText(1, 4, "0.0", &index), "1.0 , 4.0");
+}
+
+}  // namespace
+}  // namespace morvane::test

@@ -1,0 +1,216 @@
+#include "textjob/frmEdit.h"
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QToolButton>
+
+#include "support/qt_Pixels.h"
+#include "support/qt_WindowStation.h"
+#include "widgets/CanvasView.h"
+#include "widgets/NotAvailable.h"
+
+namespace morvane::test {
+namespace {
+
+using platform::Answer;
+
+const QColor kDraw(0, 255, 255);
+const QColor kSelected(255, 0, 0);
+
+// A font whose letter A is a stroke down and one to the right; two lines of text far apart.
+class frmEditTest : public ::testing::Test {
+ protected:
+  frmEditTest() {
+    std::string font;
+    for (int code = 1; code <= 255; ++code) {
+      font += std::to_string(code) + (code == 'A' ? ":0,0,0,1;0,1,1,1" : ":") + "\r\n";
+    }
+    station.folder.Write("FONT1.fnt", font);
+    station.folder.Write("ONE.TJB",
+                         "COMMENT,The first\r\n0,1,1,1,FONT1.fnt,0,0,0,0,A@@,1\r\n"
+                         "0,4,2.5,1,FONT1.fnt,0,0,0,0,A@@,1\r\n4,3,3\r\n");
+    station.folder.Write("TWO.TJB", "COMMENT,The second\r\n4,1,1\r\n");
+    station.Load();
+  }
+  textjob::frmEdit& Form() { return station.Active<textjob::frmEdit>(); }
+  template <typename T>
+  T& Control(const char* name) {
+    return Find<T>(Form(), name);
+  }
+  widgets::CanvasView& pic() { return Control<widgets::CanvasView>("pic"); }
+  void Open(const char* name) {
+    station.windows.OpenFile(station.folder / name);
+    WindowStation::Pump();
+  }
+  void ClickWorld(double x, double y, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mouseClick(&pic(), Qt::LeftButton, modifiers, pic().FromWorld({x, y}).toPoint());
+  }
+  QStringList Lines() {
+    QStringList lines;
+    for (int row = 0; row < Control<QListWidget>("cmbLine").count(); ++row) {
+      lines << Control<QListWidget>("cmbLine").item(row)->text();
+    }
+    return lines;
+  }
+
+  WindowStation station;
+};
+
+TEST_F(frmEditTest, AJobIsShownAsItIs) {
+  EXPECT_EQ(Control<QComboBox>("cmbFile").currentText(), "<NEW>");
+  EXPECT_TRUE(Lines().isEmpty());
+  station.prompts.files.push_back({station.folder / "ONE.TJB"});
+  station.Entry("mnuFileOpen").trigger();
+  EXPECT_EQ(station.prompts.requests.at(0).filter, "TJB Files (*.TJB)|*.TJB");
+  EXPECT_EQ(station.prompts.requests.at(0).title, "Open File");
+  EXPECT_EQ(Control<QComboBox>("cmbFile").currentText(), "ONE.TJB");
+  EXPECT_EQ(Find<QToolButton>(station.Frame(), "panelJob").text(), "ONE.TJB");
+  EXPECT_EQ(Control<QLineEdit>("txtComments").text(), "The first");
+  EXPECT_EQ(Lines(), QStringList({"Line 1: A", "Line 2: A", "Line 3: MOVE"}));
+  EXPECT_GT(CountPixels(pic(), kDraw), 100);
+  EXPECT_EQ(CountPixels(pic(), kSelected), 0);
+}
+
+TEST_F(frmEditTest, LinesAreSelectedInTheListAndOnTheDrawing) {
+  Open("ONE.TJB");
+  auto& list = Control<QListWidget>("cmbLine");
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
+  EXPECT_EQ(station.job.Selection, "1");
+  EXPECT_GT(CountPixels(pic(), kSelected), 50);
+  ClickWorld(1.1, 1.9);
+  EXPECT_EQ(station.job.Selection, "0");
+  EXPECT_EQ(list.currentRow(), 0);
+  ClickWorld(4.8, 3.4, Qt::ControlModifier);
+  EXPECT_EQ(station.job.Selection, "0,1");
+  EXPECT_EQ(list.selectedItems().size(), 2);
+  ClickWorld(1.1, 1.9, Qt::ControlModifier);
+  EXPECT_EQ(station.job.Selection, "1");
+  EXPECT_FALSE(station.job.Dirty);
+}
+
+TEST_F(frmEditTest, TheMousePositionIsInTheUsersUnits) {
+  station.Set("UnitsFormat", "0.0");
+  const QPoint at = pic().FromWorld({3, 2}).toPoint();
+  QTest::mouseMove(&pic(), at);
+  const auto& panel = Find<QLabel>(station.Frame(), "panelMouse");
+  EXPECT_EQ(panel.text(), "3.0 , 2.0");
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(&pic(), &leave);
+  EXPECT_EQ(panel.text(), "");
+}
+
+TEST_F(frmEditTest, TheSelectorAsksForAChangedJob) {
+  Open("ONE.TJB");
+  auto& selector = Control<QComboBox>("cmbFile");
+  station.Frame().activateWindow();
+  Control<QLineEdit>("txtComments").setFocus();
+  QTest::keyClicks(&Control<QLineEdit>("txtComments"), "!");
+  EXPECT_TRUE(station.job.Dirty);
+  EXPECT_TRUE(Form().isWindowModified());
+  station.prompts.answers = {Answer::Yes};
+  selector.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"Do you want to save this job?"});
+  EXPECT_EQ(station.folder.Read("ONE.TJB").substr(0, 20), "COMMENT,The first!\r\n");
+  QTest::keyClick(&selector, Qt::Key_Down);
+  EXPECT_EQ(selector.currentText(), "TWO.TJB");
+  EXPECT_EQ(station.job.Comment, "The second");
+  EXPECT_EQ(Lines(), QStringList({"Line 1: MOVE"}));
+  // A No drops the change, and is asked for once.
+  station.job.Dirty = true;
+  station.prompts.answers = {Answer::No};
+  Control<QLineEdit>("txtComments").setFocus();
+  selector.setFocus(Qt::TabFocusReason);
+  EXPECT_FALSE(station.job.Dirty);
+  selector.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(station.prompts.boxes.size(), 2U);
+}
+
+TEST_F(frmEditTest, SavingUnderItsOwnAndAnotherName) {
+  Open("TWO.TJB");
+  QTest::keyClicks(&Control<QLineEdit>("txtComments"), "?");
+  Control<QPushButton>("cmdSave").click();
+  EXPECT_EQ(station.folder.Read("TWO.TJB"), "COMMENT,The second?\r\n4,1,1\r\n");
+  EXPECT_FALSE(Form().isWindowModified());
+  station.prompts.files.push_back({station.folder / "THREE.TJB"});
+  station.Entry("mnuFileSaveAs").trigger();
+  EXPECT_EQ(station.folder.Read("THREE.TJB"), station.folder.Read("TWO.TJB"));
+  EXPECT_EQ(Control<QComboBox>("cmbFile").currentText(), "THREE.TJB");
+  EXPECT_EQ(Find<QToolButton>(station.Frame(), "panelJob").text(), "THREE.TJB");
+}
+
+TEST_F(frmEditTest, ClosingDropsTheJobWhateverTheAnswer) {
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    station.Entry("mnuFileEdit").trigger();
+    Open("TWO.TJB");
+    QTest::keyClicks(&Control<QLineEdit>("txtComments"), "x");
+    station.prompts.answers = {answer};
+    station.Entry("mnuFileClose").trigger();
+    EXPECT_EQ(station.job.LineCount(), 0U);
+    EXPECT_EQ(station.folder.Read("TWO.TJB").find("secondx") != std::string::npos, answer == Answer::Yes);
+    EXPECT_EQ(Find<QToolButton>(station.Frame(), "panelJob").text(), "");
+  }
+}
+
+TEST_F(frmEditTest, ToolPathMarkDrawsItsLines) {
+  Open("ONE.TJB");
+  const QColor green(0, 255, 0);
+  EXPECT_EQ(CountPixels(pic(), green), 0);
+  station.Entry("mnuViewToolPath").trigger();
+  EXPECT_GT(CountPixels(pic(), green), 100);
+}
+
+TEST_F(frmEditTest, MissingFunctionsSaySo) {
+  for (const char* name : {"cmdNewLine", "cmdDeleteLine", "cmdReorder", "cmdOpenFile", "cmdDownload",
+                           "cmdDownloadRun", "cmdUpload", "CmdLockImage"}) {
+    const auto& button = Control<QPushButton>(name);
+    EXPECT_TRUE(button.isVisible() && !button.isEnabled()) << name;
+    EXPECT_EQ(button.toolTip(), widgets::kNotAvailable);
+  }
+}
+
+// A raster line bakes its bitmap with a side program, and windows live on meanwhile.
+class SlowPass : public frmEditTest {
+ protected:
+  SlowPass() {
+    station.folder.Write("PIXBAKE.EXE", "program");
+    station.folder.Write("P.RAS", "raster");
+    station.folder.Write("SLOW.TJB", "COMMENT,slow\r\n16,1,1,1,,0,0,0,0,P.RAS@@,1\r\n");
+    station.processes.scripts.push_back({true, 3, 0, {}});
+  }
+  // Does this once, in the middle of the pass.
+  void InPass(std::function<void()> act) {
+    station.clock.onWait = [this, act = std::move(act)](int) {
+      const platform::Operations::Scope scope(station.operations);
+      if (!done) {
+        done = true;
+        act();
+      }
+      WindowStation::Pump();
+    };
+  }
+  bool done = false;
+};
+
+TEST_F(SlowPass, AnotherJobMayBeChosenMeanwhile) {
+  InPass([&] { Open("ONE.TJB"); });
+  Open("SLOW.TJB");
+  EXPECT_TRUE(done);
+  EXPECT_EQ(Lines(), QStringList({"Line 1: A", "Line 2: A", "Line 3: MOVE"}));
+  EXPECT_EQ(Control<QLineEdit>("txtComments").text(), "The first");
+}
+
+TEST_F(SlowPass, TheEditorMayBeClosedMeanwhile) {
+  QPointer<textjob::frmEdit> form(&Form());
+  InPass([&] {
+    station.Entry("mnuFileClose").trigger();
+    WindowStation::Pump();
+    EXPECT_FALSE(form.isNull()) << "its pass is still on the stack";
+  });
+  Open("SLOW.TJB");
+  EXPECT_TRUE(done);
+  WindowStation::Pump();
+  EXPECT_TRUE(form.isNull());
+}
+
+}  // namespace
+}  // namespace morvane::test

@@ -1,0 +1,139 @@
+#include "widgets/CanvasView.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "common/Files.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/qt/PictureStore.h"
+#include "support/qt_Pixels.h"
+#include "support/qt_WindowStation.h"
+#include "widgets/FitView.h"
+
+namespace morvane::test {
+namespace {
+
+class CanvasViewTest : public ::testing::Test {
+ protected:
+  CanvasViewTest() {
+    view_.resize(400, 200);
+    view_.SetPictures(&pictures_);
+    view_.SetBackground(Qt::black);
+    view_.SetDrawing({[this](platform::Canvas& canvas) {
+                        ++painted_;
+                        canvas.Box({4, 2, 1, 1}, 255, true);
+                      },
+                      {0, 0, 8, 4}});
+    view_.show();
+    WindowStation::Pump();
+  }
+  static void ExpectNear(const QPointF& found, const QPointF& wanted) {
+    EXPECT_NEAR(found.x(), wanted.x(), 1e-3);
+    EXPECT_NEAR(found.y(), wanted.y(), 1e-3);
+  }
+  void Wheel(const QPointF& at, int delta) {
+    QWheelEvent event(at, view_.mapToGlobal(at), QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view_, &event);
+  }
+
+  TempFolder folder_;
+  platform::PosixFileSystem fileSystem_;
+  common::Files files_{fileSystem_, folder_.Path()};
+  platform::PictureStore pictures_{files_};
+  widgets::CanvasView view_;
+  int painted_ = 0;
+};
+
+TEST_F(CanvasViewTest, TheWheelZoomsAtThePointerAndKeysFitAgain) {
+  const QPointF at(230, 130);
+  const QPointF world = view_.ToWorld(at);
+  ExpectNear(world, {4.6, 2.6});
+  for (const int delta : {120, 360, -120, 1200}) {
+    Wheel(at, delta);
+    ExpectNear(view_.ToWorld(at), world);
+    ExpectNear(view_.FromWorld(world), at);
+  }
+  EXPECT_GT(view_.Zoom(), 10);
+  EXPECT_EQ(CountPixels(view_, Qt::red, {1, 1, 398, 198}), 398 * 198) << "the box fills the view";
+  view_.Fit();
+  struct Key {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+  };
+  for (const Key& fit : {Key{Qt::Key_F, Qt::NoModifier}, Key{Qt::Key_Home, Qt::NoModifier},
+                         Key{Qt::Key_0, Qt::ControlModifier}}) {
+    QTest::keyClick(&view_, Qt::Key_Plus);
+    QTest::keyClick(&view_, Qt::Key_Left);
+    EXPECT_EQ(view_.Zoom(), 1.25);
+    QTest::keyClick(&view_, fit.key, fit.modifiers);
+    EXPECT_EQ(view_.Zoom(), 1);
+    ExpectNear(view_.ToWorld({0, 0}), {0, 0});
+  }
+}
+
+TEST_F(CanvasViewTest, ZoomEndsSomewhereAndStaysWhenTheDrawingChanges) {
+  for (int i = 0; i < 200; ++i) Wheel({0, 0}, -120);
+  EXPECT_GT(view_.View().Width, 8);
+  EXPECT_LT(view_.View().Width, 1000);
+  for (int i = 0; i < 400; ++i) Wheel({100, 100}, 120);
+  EXPECT_GT(view_.View().Width, 1e-4);
+  view_.Fit();
+  Wheel({0, 0}, 120);
+  view_.SetDrawing({[](platform::Canvas&) {}, {0, 0, 80, 40}});
+  EXPECT_EQ(view_.Zoom(), 1.25);
+  EXPECT_FLOAT_EQ(view_.View().Width, 64);
+}
+
+TEST_F(CanvasViewTest, TheMiddleButtonAndTheArrowsMoveTheView) {
+  QTest::mousePress(&view_, Qt::MiddleButton, {}, {100, 100});
+  QTest::mouseMove(&view_, {150, 120});
+  QTest::mouseRelease(&view_, Qt::MiddleButton, {}, {150, 120});
+  ExpectNear(view_.ToWorld({150, 120}), {2, 2});
+  QTest::mouseMove(&view_, {10, 10});
+  ExpectNear(view_.ToWorld({150, 120}), {2, 2});
+  QTest::keyClick(&view_, Qt::Key_Right);
+  QTest::keyClick(&view_, Qt::Key_Down);
+  ExpectNear(view_.ToWorld({150, 120}), {2.8, 2.4});
+}
+
+TEST_F(CanvasViewTest, ClicksAndMovesAreToldInTheWorld) {
+  std::vector<QPointF> moves;
+  std::vector<std::pair<QPointF, Qt::MouseButton>> clicks;
+  QObject::connect(&view_, &widgets::CanvasView::MouseMoved, [&](const QPointF& at) { moves.push_back(at); });
+  QObject::connect(&view_, &widgets::CanvasView::Pressed,
+                   [&](const QPointF& at, Qt::MouseButton button, Qt::KeyboardModifiers) {
+                     clicks.emplace_back(at, button);
+                   });
+  QTest::mouseMove(&view_, {200, 100});
+  QTest::mouseClick(&view_, Qt::LeftButton, {}, {50, 50});
+  QTest::mouseClick(&view_, Qt::MiddleButton, {}, {60, 60});
+  QTest::mouseClick(&view_, Qt::RightButton, {}, {100, 50});
+  ASSERT_FALSE(moves.empty());
+  ExpectNear(moves.front(), {4, 2});
+  ASSERT_EQ(clicks.size(), 2U);
+  ExpectNear(clicks[0].first, {1, 1});
+  EXPECT_EQ(clicks[1].second, Qt::RightButton);
+}
+
+TEST_F(CanvasViewTest, OnlyAChangeIsPaintedAnew) {
+  EXPECT_EQ(CountPixels(view_, Qt::red), 50 * 50);
+  const int before = painted_;
+  for (int i = 0; i < 5; ++i) view_.repaint();
+  EXPECT_EQ(painted_, before);
+  view_.resize(300, 150);
+  view_.repaint();
+  EXPECT_EQ(painted_, before + 1);
+}
+
+TEST(FitView, TheWholeIsInTheMiddle) {
+  const platform::CanvasView wide = widgets::Centered({-0.05F, -0.05F, 1.1F, 1.6F}, {320, 160});
+  EXPECT_FLOAT_EQ(wide.Height, 1.6F);
+  EXPECT_FLOAT_EQ(wide.Width, 3.2F);
+  EXPECT_FLOAT_EQ(wide.Left, -0.05F - (3.2F - 1.1F) / 2);
+  EXPECT_FLOAT_EQ(widgets::Centered({0, 0, 2, 1}, {100, 100}).Top, -0.5F);
+}
+
+}  // namespace
+}  // namespace morvane::test
