@@ -12,7 +12,7 @@ attribute() {
 # run_tests PRESET [PATTERN]: runs the test programs (those whose name fits) and adds up their cases. A
 # program that fails without a report, or fails although its report is clean, counts as one failed case.
 run_tests() {
-  local build=$root/build/$1 pattern=${2:-.} start=$SECONDS name
+  local build=$root/build/$1 pattern=${2:-.} start=$SECONDS done_before=$((passed + failed)) name
   local reports=$build/reports
   rm -rf "$reports"
   mkdir -p "$reports"
@@ -26,7 +26,7 @@ run_tests() {
     echo "The tests of $1 failed although no case did." >&2
     failed=$((failed + 1))
   fi
-  echo "Tests of $1: $(took "$start")"
+  echo "Tests of $1: $((passed + failed - done_before)) cases, $(took "$start")"
 }
 
 # count_report FILE PROGRAM
