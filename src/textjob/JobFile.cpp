@@ -1,5 +1,6 @@
 #include "textjob/JobFile.h"
 
+#include "common/Numbers.h"
 #include "common/RunTimeError.h"
 #include "common/Text.h"
 #include "textjob/modTjb.h"
@@ -44,6 +45,16 @@ std::vector<std::string> JobList(const common::Files& files, const std::string& 
   }
   entries.push_back(wanted);
   return entries;
+}
+
+std::string NewJobLine(TextJob& job, const std::string& name, const common::SettingsSnapshot& settings,
+                       const platform::Clock& clock, const platform::Locale& locale) {
+  if (job.Comment.empty() && name == kNewJob && job.Lines.empty()) {
+    const std::string date = locale.ShortDate(clock.Now());
+    job.Comment = std::string("Job created by ") + platform::kApplicationTitle + " on " + date + ".";
+  }
+  const float size = common::ParseSingle(settings.Get(common::kSettingsSection, "DefaultTextSize", ".125"));
+  return "0,0,0," + common::PlainNumber(size) + ",FONT1.fnt,0,0,0,0,New@@,1";
 }
 
 }  // namespace morvane::textjob

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/Files.h"
+#include "common/Settings.h"
 #include "platform/Clock.h"
 #include "platform/Locale.h"
 #include "platform/Prompts.h"
@@ -26,5 +27,10 @@ bool SaveTjbFile(TextJob& job, const std::string& name, const common::Files& fil
 // not among them. `selected` is the index of `wanted`, compared without regard to case.
 std::vector<std::string> JobList(const common::Files& files, const std::string& wanted,
                                  std::size_t& selected);
+
+// What the New Line button adds: a Normal line at the origin. A new job (`name` is `<NEW>`) without lines
+// and comment gets its comment first.
+std::string NewJobLine(TextJob& job, const std::string& name, const common::SettingsSnapshot& settings,
+                       const platform::Clock& clock, const platform::Locale& locale);
 
 }  // namespace morvane::textjob

@@ -5,7 +5,9 @@
 #include <limits>
 
 #include "common/RunTimeError.h"
+#include "support/FakeClock.h"
 #include "support/FakeFileSystem.h"
+#include "support/FakeLocale.h"
 #include "support/FakePrompts.h"
 #include "textjob/JobFile.h"
 
@@ -108,6 +110,26 @@ TEST(Tjb, CorrectionsAndBadNumbers) {
   EXPECT_EQ(odd.Depth2, .5F);
 }
 
+TEST(TjbWords, StandUnderTheirNumbers) {
+  const struct {
+    std::int32_t (*index)(std::string_view);
+    std::vector<const char*> words;
+  } tables[] = {
+      {LineTypeIndex,
+       {"Normal", "Serial", "Graphic", "DateCode", "Move", "Panel", "Data Matrix", "Fill", "Variable",
+        "Image", "Cap", "Scale", "Start Position", "Closed Path", "Pressure", "Park Path", "Raster"}},
+      {StyleIndex, {"Regular", "ArcText", "Angular", "RadiusText"}},
+      {JustifyIndex, {"Left", "Center", "Right"}},
+      {LocationIndex, {"Outside", "Inside"}},
+      {KeepRatioIndex, {"No", "Yes"}}};
+  for (const auto& [index, words] : tables) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+      EXPECT_EQ(static_cast<std::size_t>(index(words[i])), i) << words[i];
+    }
+    EXPECT_EQ(index("none"), 0);
+  }
+}
+
 // The font token comes in many spellings and is written in one; numbers keep seven digits.
 TEST(Tjb, Rewrite) {
   const struct {
@@ -190,6 +212,18 @@ TEST_F(TjbFile, NewJobKeepsTheComment) {
   EXPECT_TRUE(LoadTjbFile(job, kNewJob, files, prompts));
   EXPECT_EQ(job.Comment, "mine");
   EXPECT_EQ(job.LineCount(), 0U);
+}
+
+TEST_F(TjbFile, NewLine) {
+  const test::FakeClock clock;
+  const test::FakeLocale locale;
+  const auto add = [&](const char* name, const char* ini) {
+    return NewJobLine(job, name, common::SettingsSnapshot(ini), clock, locale);
+  };
+  EXPECT_EQ(add("A.TJB", ""), "0,0,0,0.125,FONT1.fnt,0,0,0,0,New@@,1");
+  EXPECT_EQ(job.Comment, "");
+  EXPECT_EQ(ParseTjbLine(add(kNewJob, "[Settings]\nDefaultTextSize=0.250 in")).Height, 0.25F);
+  EXPECT_EQ(job.Comment, "Job created by Morvane on 3/5/2024.");
 }
 
 TEST_F(TjbFile, JobListHoldsTheWantedJob) {
