@@ -1,5 +1,7 @@
 #include "common/RunTimeError.h"
 
+#include <utility>
+
 namespace morvane::common {
 namespace {
 
@@ -32,6 +34,9 @@ const char* Describe(RunTimeErrorNumber number) {
 }  // namespace
 
 RunTimeError::RunTimeError(RunTimeErrorNumber number) : number_(number), description_(Describe(number)) {}
+
+RunTimeError::RunTimeError(int number, std::string description)
+    : number_(number), description_(std::move(description)) {}
 
 void ThrowIf(platform::Error error) {
   switch (error) {

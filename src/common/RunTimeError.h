@@ -28,6 +28,8 @@ class RunTimeError : public std::exception {
  public:
   // The description is the standard one of the number.
   explicit RunTimeError(RunTimeErrorNumber number);
+  // A failure with words of its own.
+  RunTimeError(int number, std::string description);
   int number() const { return number_; }
   const std::string& description() const { return description_; }
   const char* what() const noexcept override { return description_.c_str(); }
