@@ -1,4 +1,4 @@
-// The one serial port of the controller link.
+// The controller link's one serial line.
 #pragma once
 
 #include <cstddef>
