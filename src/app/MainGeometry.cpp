@@ -10,9 +10,18 @@
 namespace morvane::app {
 namespace {
 
-int Pixels(float twips) {
+float Held(float pixels) {
   constexpr float kLimit = 16000;  // a window system takes no more
-  return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kLimit, kLimit)));
+  return std::clamp(pixels, -kLimit, kLimit);
+}
+
+int Place(float twips) {
+  return static_cast<int>(std::lround(Held(twips / kTwipsPerPixel)));
+}
+
+// Rounded up: a size is never below its least.
+int Size(float twips, float least) {
+  return static_cast<int>(std::ceil(Held(std::max(twips, least) / kTwipsPerPixel)));
 }
 
 float Twips(int pixels) {
@@ -35,8 +44,8 @@ MainGeometry ReadGeometry(const common::Settings& settings) {
 }
 
 QRect ToPixels(const MainGeometry& geometry) {
-  return {Pixels(geometry.left), Pixels(geometry.top), Pixels(std::max(geometry.width, kMinimumWidth)),
-          Pixels(std::max(geometry.height, kMinimumHeight))};
+  return {Place(geometry.left), Place(geometry.top), Size(geometry.width, kMinimumWidth),
+          Size(geometry.height, kMinimumHeight)};
 }
 
 MainGeometry ToTwips(const QRect& pixels) {

@@ -1,6 +1,8 @@
 #include "app/MdiChild.h"
 
+#include <QChildEvent>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QProxyStyle>
 
 #include "platform/qt/Operations.h"
@@ -33,6 +35,9 @@ MdiChild::MdiChild(QWidget* form, platform::Operations& operations) : operations
 void MdiChild::closeEvent(QCloseEvent* event) {
   QMdiSubWindow::closeEvent(event);
   if (!event->isAccepted()) return;
+  // The area activates another child now, not when this one is deleted.
+  QChildEvent removed(QEvent::ChildRemoved, this);
+  QCoreApplication::sendEvent(parentWidget(), &removed);
   operations_.DeleteWhenIdle(this);
 }
 

@@ -106,7 +106,9 @@ void Program::Start(const CommandLine& line) {
   frame_->MDIForm_Load();
   splash.reset();
   frame_->show();
-  if (!job.empty()) windows_.OpenFile(job);
+  // The window stands before the job is drawn, which may take side programs and their waits.
+  clock_.DoEvents();
+  if (!job.empty() && frame_->isVisible()) windows_.OpenFile(job);
 }
 
 }  // namespace morvane::app

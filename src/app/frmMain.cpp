@@ -32,9 +32,11 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   setObjectName("frmMain");
   area_->setObjectName("mdiArea");
   area_->setBackground(palette().brush(QPalette::Dark));
+  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setCentralWidget(area_);
   BuildMenus(*menuBar(), *actions_);
   BuildRecentFiles();
+  BuildWindowList();
   auto* bar = new MainStatusBar(context.statusPanels, this);
   setStatusBar(bar);
   connect(bar, &MainStatusBar::JobClicked, this, [this] { actions_->JobPanel_Click(); });

@@ -53,6 +53,8 @@ class frmMain : public QMainWindow {
  private:
   void BuildRecentFiles();
   void ShowRecentFiles();
+  void BuildWindowList();
+  void ShowWindowList();
   void EnableEntries();
   void HoldMinimumSize();
   void ReadGeometryAndMarks();

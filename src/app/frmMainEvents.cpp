@@ -3,7 +3,6 @@
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QMdiArea>
-#include <QMenu>
 #include <QMimeData>
 #include <QScreen>
 
@@ -11,9 +10,7 @@
 #include "app/MainGeometry.h"
 #include "app/MdiChild.h"
 #include "app/MenuActions.h"
-#include "app/RecentFiles.h"
 #include "app/frmMain.h"
-#include "common/FileNames.h"
 #include "common/Files.h"
 #include "common/Numbers.h"
 #include "common/RunTimeError.h"
@@ -141,28 +138,6 @@ void frmMain::dropEvent(QDropEvent* event) {
         for (const QString& file : files) windows_.OpenFile(platform::PathFromQt(file));
       },
       Qt::QueuedConnection);
-}
-
-void frmMain::BuildRecentFiles() {
-  auto* file = findChild<QMenu*>("mnuFile");
-  auto* recent = new QMenu(tr("&Recent Files"), this);
-  recent->setObjectName("mnuFileRecent");
-  recent->menuAction()->setStatusTip(tr("Open a file that was used lately"));
-  file->insertMenu(Entry("mnuFileDownload"), recent);
-  connect(file, &QMenu::aboutToShow, this, &frmMain::ShowRecentFiles);
-}
-
-void frmMain::ShowRecentFiles() {
-  auto* recent = findChild<QMenu*>("mnuFileRecent");
-  recent->clear();
-  int number = 0;
-  for (const std::string& path : RecentFiles(context_.settings)) {
-    QString name = platform::PathToQt(common::PathFileName(path));
-    QAction* action = recent->addAction(QString("&%1 %2").arg(++number).arg(name.replace("&", "&&")));
-    action->setStatusTip(platform::PathToQt(path));
-    connect(action, &QAction::triggered, this, [this, path] { windows_.OpenFile(path); });
-  }
-  recent->setEnabled(number > 0);
 }
 
 }  // namespace morvane::app

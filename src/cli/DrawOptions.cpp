@@ -86,7 +86,8 @@ std::string Png(Environment& environment, const DrawOptions& options,
   {
     QPainter painter(&image);
     platform::PictureStore pictures(environment.files);
-    platform::QtCanvas canvas(painter, {image.size(), 1, background}, pictures);
+    platform::QtCanvas canvas(
+        painter, {image.size(), 1, background, platform::SmoothLines(drawing.Segments().size())}, pictures);
     drawing.Replay(canvas);
   }
   QByteArray bytes;

@@ -88,7 +88,7 @@ void frmFontView::DrawCharacter() {
   for (const FontSegment& stroke : segments) drawing.Line(pen, {stroke.X1, stroke.Y1, stroke.X2, stroke.Y2});
   ui_->lblSegments->setText(QString("Line Segments: %1").arg(segments.size()));
   ui_->pic->SetDrawing({[drawing](platform::Canvas& canvas) { drawing.Replay(canvas); },
-                        widgets::Centered(kCell, ui_->pic->size())});
+                        widgets::Centered(kCell, ui_->pic->size()), segments.size()});
 }
 
 }  // namespace morvane::fonts

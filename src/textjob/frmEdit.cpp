@@ -45,7 +45,9 @@ void frmEdit::Connect() {
   connect(ui_->pic, &widgets::CanvasView::MouseLeft, this,
           [this] { context_.statusPanels.SetText(context::Panel::Mouse, {}); });
   // A pass may ask and wait, which a resize event must not.
-  connect(ui_->pic, &widgets::CanvasView::Resized, this, &frmEdit::DrawJob, Qt::QueuedConnection);
+  resized_.setSingleShot(true);
+  connect(&resized_, &QTimer::timeout, this, &frmEdit::DrawJob);
+  connect(ui_->pic, &widgets::CanvasView::Resized, &resized_, qOverload<>(&QTimer::start));
 }
 
 void frmEdit::MarkMissingFunctions() {

@@ -1,6 +1,7 @@
 // The text job editor: job selector, list of lines, comment, and the preview of the whole job.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <string>
@@ -9,6 +10,10 @@
 
 namespace morvane::context {
 struct AppContext;
+}
+
+namespace morvane::platform {
+class RecordingCanvas;
 }
 
 namespace Ui {
@@ -51,6 +56,7 @@ class frmEdit : public QWidget {
 
   // One drawing pass; `search` finds the line nearest to a click.
   void RunPass(ClickSearch* search = nullptr);
+  void ShowPart(const platform::RecordingCanvas& drawing);
   void ShowJob();
   void ShowLines(const TextJob& job, const PreviewResult& result);
   void ShowLegend();
@@ -58,6 +64,7 @@ class frmEdit : public QWidget {
   const context::AppContext& context_;
   std::unique_ptr<Ui::frmEdit> ui_;
   JobDocument document_;
+  QTimer resized_;  // one pass for a burst of sizes
   bool drawing_ = false;
   bool drawAgain_ = false;
   bool filling_ = false;  // the list is being filled, its events mean nothing

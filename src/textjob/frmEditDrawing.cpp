@@ -1,10 +1,12 @@
 // The preview of the editor: drawing passes, selection, mouse.
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "common/Settings.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "platform/RecordingCanvas.h"
+#include "platform/qt/Operations.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtText.h"
 #include "textjob/PositionText.h"
@@ -15,6 +17,11 @@
 #include "ui_frmEdit.h"
 
 namespace morvane::textjob {
+namespace {
+
+constexpr int kShowPartAfter = 200;  // milliseconds
+
+}  // namespace
 
 void frmEdit::DrawJob() {
   if (drawing_) {
@@ -29,6 +36,7 @@ void frmEdit::DrawJob() {
 
 void frmEdit::RunPass(ClickSearch* search) {
   const QScopedValueRollback<bool> guard(drawing_, true);
+  const platform::Operations::Scope scope(context_.operations, this);
   // Side programs of the pass keep the window alive, and another job may come in meanwhile.
   const TextJob job = context_.job;
   auto drawing = std::make_shared<platform::RecordingCanvas>();
@@ -37,10 +45,24 @@ void frmEdit::RunPass(ClickSearch* search) {
   const PictureSize picture{static_cast<float>(std::max(ui_->pic->width(), 1)),
                             static_cast<float>(std::max(ui_->pic->height(), 1))};
   const PreviewRequest request{job, document_.Name(), context_.viewOptions, picture, search};
+  QTimer waiting;
+  connect(&waiting, &QTimer::timeout, this, [&] { ShowPart(*drawing); });
+  waiting.start(kShowPartAfter);
   const PreviewResult result = textjob::DrawJob(sources, request, context_.previewState, *drawing);
-  ui_->pic->SetDrawing({[drawing](platform::Canvas& canvas) { drawing->Replay(canvas); }, result.view});
+  ui_->pic->SetDrawing({[drawing](platform::Canvas& canvas) { drawing->Replay(canvas); }, result.view,
+                        drawing->Segments().size()});
+  context_.progress.Clear();
   ShowLegend();
   ShowLines(job, result);
+}
+
+// A pass that waits for a side program shows what it has so far.
+void frmEdit::ShowPart(const platform::RecordingCanvas& drawing) {
+  if (!drawing.View()) return;
+  const auto part = std::make_shared<platform::RecordingCanvas>(drawing);
+  ui_->pic->SetDrawing(
+      {[part](platform::Canvas& canvas) { part->Replay(canvas); }, *part->View(), part->Segments().size()});
+  context_.progress.Set(0, 0);
 }
 
 void frmEdit::ShowLines(const TextJob& job, const PreviewResult& result) {

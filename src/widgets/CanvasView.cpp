@@ -101,7 +101,8 @@ void CanvasView::Render() {
     painter.setFont(font());
     painter.fillRect(painted_.rect(), background);
     if (drawing_.draw && pictures_ != nullptr) {
-      platform::QtCanvas canvas(painter, {pixels, ratio, background}, *pictures_);
+      platform::QtCanvas canvas(painter, {pixels, ratio, background, platform::SmoothLines(drawing_.lines)},
+                                *pictures_);
       canvas.HoldView(View());
       drawing_.draw(canvas);
     }

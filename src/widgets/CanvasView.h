@@ -21,10 +21,12 @@ class CanvasView : public QWidget {
   Q_OBJECT
 
  public:
-  // Draws the whole drawing into the canvas; called once for each painting.
+  // Draws the whole drawing into the canvas; called once for each painting. `lines` is roughly how many
+  // lines it has, and decides whether they are smoothed.
   struct Drawing {
     std::function<void(platform::Canvas&)> draw;
     platform::CanvasView fit;  // what is seen without zoom
+    std::size_t lines = 0;
   };
 
   explicit CanvasView(QWidget* parent = nullptr);

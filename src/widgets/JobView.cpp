@@ -1,10 +1,13 @@
 #include "widgets/JobView.h"
 
 #include "common/Files.h"
+#include "common/Numbers.h"
 #include "common/RunTimeError.h"
 #include "common/Settings.h"
 #include "context/AppContext.h"
+#include "context/StatusPanels.h"
 #include "platform/qt/QtCanvas.h"
+#include "platform/qt/QtText.h"
 
 namespace morvane::widgets {
 
@@ -17,6 +20,16 @@ void JobView::Use(const context::AppContext& context, gcode::Viewer viewer) {
   context_ = &context;
   options_.viewer = viewer;
   SetPictures(&context.pictures);
+  connect(this, &CanvasView::MouseMoved, this, &JobView::ShowPosition);
+  connect(this, &CanvasView::MouseLeft, this,
+          [this] { context_->statusPanels.SetText(context::Panel::Mouse, {}); });
+}
+
+void JobView::ShowPosition(const QPointF& world) {
+  const std::string format = context_->settings.UnitsFormatText();
+  const std::string text =
+      common::FormatPicture(world.x(), format) + " , " + common::FormatPicture(world.y(), format);
+  context_->statusPanels.SetText(context::Panel::Mouse, platform::ToQt(text));
 }
 
 void JobView::OpenFile(const std::string& name) {
@@ -57,7 +70,7 @@ void JobView::DrawFile() {
   SetDrawing({[program = program_, options = options_](platform::Canvas& canvas) {
                 gcode::DrawFile(*program, options, canvas);
               },
-              surface_.view});
+              surface_.view, program_->Size()});
 }
 
 }  // namespace morvane::widgets

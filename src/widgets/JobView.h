@@ -38,6 +38,7 @@ class JobView : public CanvasView {
 
  private:
   void ReadFile();
+  void ShowPosition(const QPointF& world);
 
   const context::AppContext* context_ = nullptr;
   gcode::PassOptions options_;

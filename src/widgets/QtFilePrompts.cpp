@@ -16,6 +16,12 @@ using platform::PathFromQt;
 using platform::PathToQt;
 using platform::ToQt;
 
+namespace {
+
+constexpr QSize kPanelDialog(860, 480);
+
+}  // namespace
+
 void QtPrompts::Prepare(QFileDialog& dialog, const FileDialogRequest& request) const {
   dialog.setWindowTitle(ToQt(request.title));
   dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -34,6 +40,7 @@ void QtPrompts::AddSidePanel(QFileDialog& dialog, const std::string& extension) 
   if (grid == nullptr) return;
   QWidget* panel = found->second(dialog);
   grid->addWidget(panel, 0, grid->columnCount(), grid->rowCount(), 1);
+  dialog.resize(kPanelDialog);
 }
 
 std::string QtPrompts::OpenFile(const FileDialogRequest& request) {

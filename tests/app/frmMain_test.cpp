@@ -37,10 +37,10 @@ TEST(frmMain, GeometryIsInTwipsAndHeldAtItsLeast) {
     const char *left, *top, *width, *height;
     QRect pixels;
   };
-  const Case cases[] = {{"", "", "", "", {67, 67, 1000, 533}},
+  const Case cases[] = {{"", "", "", "", {67, 67, 1000, 534}},
                         {"1500", "900.4", "18000", "9000", {100, 60, 1200, 600}},
-                        {"15", "15", "300", "20", {1, 1, 1000, 533}},
-                        {"-900", "0", "15000", "8000", {-60, 0, 1000, 533}}};
+                        {"15", "15", "300", "20", {1, 1, 1000, 534}},
+                        {"-900", "0", "15000", "8000", {-60, 0, 1000, 534}}};
   for (const Case& c : cases) {
     WindowStation station;
     for (const auto& [key, value] : {std::pair{"MainLeft", c.left}, std::pair{"MainTop", c.top},
@@ -51,7 +51,7 @@ TEST(frmMain, GeometryIsInTwipsAndHeldAtItsLeast) {
     EXPECT_EQ(frame.pos(), c.pixels.topLeft()) << c.left;
     EXPECT_EQ(frame.size(), c.pixels.size()) << c.width;
     frame.resize(200, 100);
-    EXPECT_EQ(frame.size(), QSize(1000, 533)) << "springs back";
+    EXPECT_EQ(frame.size(), QSize(1000, 534)) << "springs back";
     EXPECT_TRUE(station.prompts.boxes.empty());
   }
 }
@@ -64,7 +64,7 @@ TEST(frmMain, BadGeometryIsReportedAndTheDefaultsStand) {
     station.Set("MainWidth", value);
     app::frmMain& frame = station.Load();
     EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{message});
-    EXPECT_EQ(QRect(frame.pos(), frame.size()), QRect(67, 67, 1000, 533));
+    EXPECT_EQ(QRect(frame.pos(), frame.size()), QRect(67, 67, 1000, 534));
   }
 }
 
@@ -196,6 +196,22 @@ TEST(frmMain, DroppedAndRecentFilesOpenInTheirWindows) {
   recent[1]->trigger();
   EXPECT_EQ(station.Active<gcode::frmGraphic>().windowTitle(), "Job Viewer - B.job");
   EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 2) << "a viewer is new for each opening";
+}
+
+TEST(frmMain, OpenWindowsAreListedAndComeToTheFront) {
+  WindowStation station;
+  app::frmMain& frame = station.Load();
+  station.windows.OpenGraphicViewer("A.JOB");
+  station.Entry("mnuFontView").trigger();
+  Find<app::MdiChild>(frame, "frmFontViewFrame").close();
+  emit Find<QMenu>(frame, "mnuView").aboutToShow();
+  QList<QAction*> windows = Find<QMenu>(frame, "mnuViewWindows").actions();
+  ASSERT_EQ(windows.size(), 5);
+  EXPECT_EQ(windows[3]->text(), "&1 Text Job - <NEW>");
+  EXPECT_EQ(windows[4]->text(), "&2 Job Viewer - A.JOB");
+  EXPECT_TRUE(windows[4]->isChecked());
+  windows[3]->trigger();
+  EXPECT_EQ(station.Active<textjob::frmEdit>().objectName(), "frmEdit");
 }
 
 TEST(frmMain, SingleWindowsAreMadeOnceAndAnewAfterTheyWereClosed) {

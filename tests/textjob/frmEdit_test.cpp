@@ -175,7 +175,7 @@ class SlowPass : public frmEditTest {
     station.folder.Write("PIXBAKE.EXE", "program");
     station.folder.Write("P.RAS", "raster");
     station.folder.Write("SLOW.TJB", "COMMENT,slow\r\n16,1,1,1,,0,0,0,0,P.RAS@@,1\r\n");
-    station.processes.scripts.push_back({true, 3, 0, {}});
+    station.processes.scripts.push_back({true, 30, 0, {}});
   }
   // Does this once, in the middle of the pass.
   void InPass(std::function<void()> act) {
@@ -208,8 +208,10 @@ TEST_F(SlowPass, TheEditorMayBeClosedMeanwhile) {
   });
   Open("SLOW.TJB");
   EXPECT_TRUE(done);
+  EXPECT_TRUE(station.processes.runs.at(0).terminated);
   WindowStation::Pump();
   EXPECT_TRUE(form.isNull());
+  EXPECT_FALSE(station.abort);
 }
 
 }  // namespace

@@ -4,6 +4,14 @@
 #include <utility>
 
 namespace morvane::platform {
+namespace {
+
+bool BelongsTo(const QObject* part, const QObject* window) {
+  while (part != nullptr && part != window) part = part->parent();
+  return part != nullptr;
+}
+
+}  // namespace
 
 Operations::Operations(bool& abort, QObject* parent) : QObject(parent), abort_(abort) {}
 
@@ -43,7 +51,9 @@ void Operations::WhenIdle(std::function<void()> action) {
 }
 
 void Operations::DeleteWhenIdle(QObject* window) {
-  if (std::find(owners_.begin(), owners_.end(), window) != owners_.end()) abort_ = true;
+  const bool own = std::any_of(owners_.begin(), owners_.end(),
+                               [window](const QObject* owner) { return BelongsTo(owner, window); });
+  if (own) abort_ = true;
   closed_.emplace_back(window);
   Queue();
 }

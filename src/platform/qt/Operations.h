@@ -22,7 +22,7 @@ class Operations : public QObject {
 
   class Scope {
    public:
-    // `owner` is the window whose operation this is, if one has it.
+    // `owner` is the window, or a part of it, whose operation this is.
     explicit Scope(Operations& operations, const QObject* owner = nullptr);
     ~Scope();
     Scope(const Scope&) = delete;

@@ -13,6 +13,7 @@ namespace morvane::platform {
 namespace {
 
 constexpr std::size_t kBatch = 4096;         // lines handed to the painter at once
+constexpr std::size_t kMostSmooth = 30000;   // lines
 constexpr double kSmallText = 12;            // pixels, the surface's own text
 constexpr double kMaxText = 4000;            // pixels
 constexpr double kMaxEllipse = 8000;         // pixels; larger circles are drawn as lines
@@ -24,6 +25,10 @@ bool Inside(double value) {
 }
 
 }  // namespace
+
+std::size_t SmoothLines(std::size_t lines) {
+  return lines <= kMostSmooth ? kMostSmooth : 0;
+}
 
 QColor ToQt(Color color) {
   return QColor::fromRgb(color & 255, color >> 8 & 255, color >> 16 & 255);

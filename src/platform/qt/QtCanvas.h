@@ -22,8 +22,8 @@ class QtCanvas : public Canvas {
     QSize pixels;       // device pixels
     double ratio = 1;   // device pixels to one pixel of a pen
     QColor background;  // what Clear leaves
-    // So many lines are antialiased: better to look at, several times slower.
-    std::size_t smoothLines = 30000;
+    // So many lines are smoothed, see SmoothLines; the rest is painted fast.
+    std::size_t smoothLines = 0;
   };
 
   // The painter paints device pixels: it has no transformation and its device a ratio of 1.
@@ -62,6 +62,10 @@ class QtCanvas : public Canvas {
   double scaleX_ = 1;  // pixels to a world unit
   double scaleY_ = 1;
 };
+
+// How many lines of a drawing of about `lines` to smooth: that is better to look at and several times
+// slower, so a drawing of very many lines is not smoothed at all.
+std::size_t SmoothLines(std::size_t lines);
 
 QColor ToQt(Color color);
 
