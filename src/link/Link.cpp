@@ -73,8 +73,8 @@ void Link::OpenSerial(int comPort) {
 }
 
 void Link::CloseSerial() {
-  if (!sources_.serial.IsOpen()) return;
-  if (!Aborted()) sources_.clock.Sleep(kCloseDelay);
+  if (sources_.serial.IsOpen() && !Aborted()) sources_.clock.Sleep(kCloseDelay);
+  CheckSerial();
   sources_.serial.Close();
 }
 
@@ -121,6 +121,12 @@ bool Link::SendSerial(std::string_view bytes) {
   return !Aborted();
 }
 
+// Counted as queued at once: a peer that takes nothing more causes no send progress that would tell of it.
+void Link::SendTcp(std::string_view bytes) {
+  bytesRemaining_ += bytes.size();
+  sources_.tcp.SendData(bytes);
+}
+
 std::size_t Link::Queued(bool tcp) const {
   return tcp ? bytesRemaining_ : sources_.serial.OutBufferCount();
 }
@@ -128,7 +134,7 @@ std::size_t Link::Queued(bool tcp) const {
 void Link::Drain(bool tcp) {
   for (int round = 0; round < kDrainRounds && Queued(tcp) > 0 && !Aborted(); ++round) {
     sources_.clock.DoEvents();
-    sources_.clock.Sleep(kDrainPause);
+    if (!Aborted()) sources_.clock.Sleep(kDrainPause);
   }
   if (Queued(tcp) == 0 || Aborted()) return;
   sources_.prompts.MsgBox(std::to_string(Queued(tcp)) + " bytes stuck in output buffer");

@@ -29,7 +29,7 @@ class Link {
 
   // Throws the port's failure as a run-time error.
   void OpenSerial(int comPort);
-  // Waits the close delay and closes, if the port is open.
+  // Waits the close delay and closes, if the port is open. Throws when the port failed meanwhile.
   void CloseSerial();
   // True when connected. A time-out is told when `showMessage` is set; a closing program is not.
   bool ConnectTcp(const std::string& address, bool showMessage);
@@ -41,7 +41,7 @@ class Link {
   // Sends on a port that is held up to 4 KB at a time: the sender waits for room, so that no more than that
   // is at stake when the port closes. False when the line takes nothing any more or the program closes.
   bool SendSerial(std::string_view bytes);
-  void SendTcp(std::string_view bytes) { sources_.tcp.SendData(bytes); }
+  void SendTcp(std::string_view bytes);
   // Up to 10 rounds of 1000 ms until nothing is queued; then tells what is stuck.
   void DrainSerial();
   void DrainTcp();

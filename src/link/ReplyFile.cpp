@@ -22,7 +22,7 @@ void ReplyFile::Close() {
 
 void TellTimeout(const LinkSources& sources, const std::string& localPath) {
   sources.waitWindow.Close();
-  sources.prompts.MsgBox(localPath + "\r\n\r\nTimeout waiting for controller", platform::Buttons::Ok,
+  sources.prompts.MsgBox(localPath + "\r\n\r\n" + "Timeout waiting for controller", platform::Buttons::Ok,
                          "Upload");
 }
 

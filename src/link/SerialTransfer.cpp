@@ -26,8 +26,9 @@ void Finish(Link& link) {
 // The whole reply, line by line. False at a time-out or when the program closes.
 bool StoreReply(Link& link, ReplyFile& file, const SerialReply& reply, bool& timedOut) {
   std::int64_t last = link.Now();
-  while (!link.Aborted()) {
+  for (;;) {
     link.Sources().clock.DoEvents();
+    if (link.Aborted()) return false;
     link.CheckSerial();
     if (link.Now() - last > reply.timeout) {
       timedOut = true;
@@ -47,7 +48,6 @@ bool StoreReply(Link& link, ReplyFile& file, const SerialReply& reply, bool& tim
     file.Write(line + "\r\n");
     if (glued) return true;
   }
-  return false;
 }
 
 }  // namespace
@@ -105,7 +105,7 @@ bool UploadSerial(Link& link, int comPort, const std::string& command, const std
 bool SendCommandSerial(Link& link, int comPort, const std::string& command) {
   link.OpenSerial(comPort);
   link.SendSerial(command + "\r\n");
-  Finish(link);
+  link.CloseSerial();
   return !link.Aborted();
 }
 

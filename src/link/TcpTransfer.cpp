@@ -37,9 +37,10 @@ int StoringTime(std::size_t length) {
 
 bool StoreReply(Link& link, ReplyFile& file, int timeout, bool& timedOut) {
   std::int64_t last = link.Now();
-  while (!link.Aborted()) {
+  for (;;) {
     link.Sources().clock.DoEvents();
     link.Sources().clock.Sleep(kReplyPause);
+    if (link.Aborted()) return false;
     if (link.Now() - last > timeout) {
       timedOut = true;
       return false;
@@ -52,7 +53,6 @@ bool StoreReply(Link& link, ReplyFile& file, int timeout, bool& timedOut) {
     file.Write(std::string_view(chunk).substr(0, end));
     if (end != std::string::npos) return true;
   }
-  return false;
 }
 
 }  // namespace
