@@ -34,8 +34,7 @@ TEST(DocumentFiles, AreWrittenWholeOrNotAtAll) {
        [](const Files& f) {
          textjob::LockRecord record{"A.TJB", "", 0, 0, 0, 0};
          if (!textjob::FindLockRecord(f, record)) throw RunTimeError(common::kFileNotFound);
-       }},
-  };
+       }}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.path);
     test::FakeFileSystem fileSystem("/base");

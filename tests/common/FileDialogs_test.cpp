@@ -51,13 +51,11 @@ TEST_F(FileDialogsTest, SeveralFilesShareOneFolder) {
     std::string directory;
     std::vector<std::string> names;
   };
-  const Case cases[] = {
-      {{"/base/A.TJB", "/base/B.TJB"}, "", {"A.TJB", "B.TJB"}},
-      {{"/base/Jobs/A.TJB"}, "Jobs", {"A.TJB"}},
-      {{"/home/\xC3\xA9/A", "/home/\xC3\xA9/\xC3\xA9"}, "/home/\xE9", {"A", "\xE9"}},
-      {{"/base/A.TJB", "/base/\xD0\x98.TJB"}, "/base", {"A.TJB", "\xD0\x98.TJB"}},
-      {{}, "", {}},
-  };
+  const Case cases[] = {{{"/base/A.TJB", "/base/B.TJB"}, "", {"A.TJB", "B.TJB"}},
+                        {{"/base/Jobs/A.TJB"}, "Jobs", {"A.TJB"}},
+                        {{"/home/\xC3\xA9/A", "/home/\xC3\xA9/\xC3\xA9"}, "/home/\xE9", {"A", "\xE9"}},
+                        {{"/base/A.TJB", "/base/\xD0\x98.TJB"}, "/base", {"A.TJB", "\xD0\x98.TJB"}},
+                        {{}, "", {}}};
   for (const Case& c : cases) {
     prompts_.files = {c.paths};
     const ChosenFiles chosen = dialogs_.MultiOpenDialog(kFilter, "tjb");

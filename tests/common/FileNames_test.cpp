@@ -29,20 +29,18 @@ TEST(FileNames, CheckFileName) {
     std::string path;
     const char* message;
   };
-  const Case cases[] = {
-      {"ABCDEFGH.JOB", ""},
-      {"AB", ""},
-      {"C:\\MY JOBS\\AB.JOB", ""},
-      {"\xC4-_\".TJB", ""},
-      {"ABCDEFGHI.JOB", "Name is longer than 8 characters"},
-      {"AB.JOBS", "Extension is longer than 3 characters"},
-      {"ABCDEFGHI.JOBS", "Extension is longer than 3 characters"},
-      {"A B.JOB", "Invalid character SPACE in name"},
-      {"A.J B", "Invalid character SPACE in extension"},
-      {"A.B.C", "Invalid character . in extension"},
-      {std::string("A\0B.JOB", 7), "Unknown problem with filename"},
-      {"A.\r\n", "Unknown problem with filename"},
-  };
+  const Case cases[] = {{"ABCDEFGH.JOB", ""},
+                        {"AB", ""},
+                        {"C:\\MY JOBS\\AB.JOB", ""},
+                        {"\xC4-_\".TJB", ""},
+                        {"ABCDEFGHI.JOB", "Name is longer than 8 characters"},
+                        {"AB.JOBS", "Extension is longer than 3 characters"},
+                        {"ABCDEFGHI.JOBS", "Extension is longer than 3 characters"},
+                        {"A B.JOB", "Invalid character SPACE in name"},
+                        {"A.J B", "Invalid character SPACE in extension"},
+                        {"A.B.C", "Invalid character . in extension"},
+                        {std::string("A\0B.JOB", 7), "Unknown problem with filename"},
+                        {"A.\r\n", "Unknown problem with filename"}};
   for (const Case& c : cases) {
     std::string message = "old";
     EXPECT_EQ(CheckFileName(c.path, message), *c.message == '\0') << c.path;

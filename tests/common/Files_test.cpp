@@ -37,25 +37,23 @@ TEST_F(FilesTest, ResolvesProgramNames) {
     std::string name;
     const char* path;
   };
-  const Case cases[] = {
-      {"Font1.FNT", "/base/Font1.FNT"},
-      {"FONT1.fnt", "/base/Font1.FNT"},
-      {"\\Temp\\tmp.lst", "/base/TEMP/tmp.lst"},
-      {"\\Temp\\New.lst", "/base/TEMP/New.lst"},
-      {"JOBS\\sub\\A.TJB", "/base/Jobs/Sub/a.tjb"},
-      {"jobs/none/A.TJB", "/base/Jobs/none/A.TJB"},
-      {".\\JOBS\\\\SUB\\.\\A.TJB", "/base/Jobs/Sub/a.tjb"},
-      {"m\xE4rz.tjb", "/base/M\xC3\x84RZ.TJB"},
-      {"n\xE9w.tjb", "/base/n\xC3\xA9w.tjb"},
-      {"Twin.tjb", "/base/TWIN.tjb"},
-      {"twin.TJB", "/base/twin.TJB"},
-      {"C:\\run.ret", "/tmp/Run.ret"},
-      {"d:sub\\x", "/tmp/sub/x"},
-      {"/home/x/\xD0\x98/A.TJB", "/home/x/\xD0\x98/a.tjb"},
-      {"/home/x\\\xE9.tjb", "/home/x/\xC3\xA9.tjb"},
-      {"", "/base"},
-      {"\\", "/base"},
-  };
+  const Case cases[] = {{"Font1.FNT", "/base/Font1.FNT"},
+                        {"FONT1.fnt", "/base/Font1.FNT"},
+                        {"\\Temp\\tmp.lst", "/base/TEMP/tmp.lst"},
+                        {"\\Temp\\New.lst", "/base/TEMP/New.lst"},
+                        {"JOBS\\sub\\A.TJB", "/base/Jobs/Sub/a.tjb"},
+                        {"jobs/none/A.TJB", "/base/Jobs/none/A.TJB"},
+                        {".\\JOBS\\\\SUB\\.\\A.TJB", "/base/Jobs/Sub/a.tjb"},
+                        {"m\xE4rz.tjb", "/base/M\xC3\x84RZ.TJB"},
+                        {"n\xE9w.tjb", "/base/n\xC3\xA9w.tjb"},
+                        {"Twin.tjb", "/base/TWIN.tjb"},
+                        {"twin.TJB", "/base/twin.TJB"},
+                        {"C:\\run.ret", "/tmp/Run.ret"},
+                        {"d:sub\\x", "/tmp/sub/x"},
+                        {"/home/x/\xD0\x98/A.TJB", "/home/x/\xD0\x98/a.tjb"},
+                        {"/home/x\\\xE9.tjb", "/home/x/\xC3\xA9.tjb"},
+                        {"", "/base"},
+                        {"\\", "/base"}};
   for (const Case& c : cases) EXPECT_EQ(files_.Resolve(c.name), c.path) << c.name;
 }
 
@@ -74,25 +72,23 @@ TEST_F(FilesTest, NamesFromDocumentsStayInside) {
     const char* folder;
     std::string path;
   };
-  const Case cases[] = {
-      {"JOBS\\A.JOB", "", "/base/Jobs/a.job"},
-      {"\\Jobs\\..\\JOBS\\a.job", "", "/base/Jobs/a.job"},
-      {"A.JOB", "Jobs", "/base/Jobs/a.job"},
-      {"new.job", "\\Jobs\\", "/base/Jobs/new.job"},
-      {"..\\A.JOB", "Jobs", refused},
-      {"..", "", refused},
-      {"x\\..\\..\\base\\A.JOB", "", refused},
-      {"x/../../base/A.JOB", "", refused},
-      {"/base/A.JOB", "", refused},
-      {"C:\\A.JOB", "", refused},
-      {"A:B", "", refused},
-      {"", "", refused},
-      {".", "", refused},
-      {"Jobs\\..", "", refused},
-      {std::string("A.JOB\0.txt", 10), "", refused},
-      {"A\r\nB", "", refused},
-      {"A\x7F", "", refused},
-  };
+  const Case cases[] = {{"JOBS\\A.JOB", "", "/base/Jobs/a.job"},
+                        {"\\Jobs\\..\\JOBS\\a.job", "", "/base/Jobs/a.job"},
+                        {"A.JOB", "Jobs", "/base/Jobs/a.job"},
+                        {"new.job", "\\Jobs\\", "/base/Jobs/new.job"},
+                        {"..\\A.JOB", "Jobs", refused},
+                        {"..", "", refused},
+                        {"x\\..\\..\\base\\A.JOB", "", refused},
+                        {"x/../../base/A.JOB", "", refused},
+                        {"/base/A.JOB", "", refused},
+                        {"C:\\A.JOB", "", refused},
+                        {"A:B", "", refused},
+                        {"", "", refused},
+                        {".", "", refused},
+                        {"Jobs\\..", "", refused},
+                        {std::string("A.JOB\0.txt", 10), "", refused},
+                        {"A\r\nB", "", refused},
+                        {"A\x7F", "", refused}};
   for (const Case& c : cases) {
     EXPECT_EQ(Outcome([&] { return files_.ResolveInside(c.name, c.folder); }), c.path) << c.name;
   }

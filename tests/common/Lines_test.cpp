@@ -14,16 +14,14 @@ TEST(Lines, EndAtEveryKindOfMark) {
     std::string bytes;
     std::vector<std::string> lines;
   };
-  const Case cases[] = {
-      {"", {}},
-      {"A", {"A"}},
-      {"A\r\n", {"A"}},
-      {"A\r\nB\nC\rD", {"A", "B", "C", "D"}},
-      {"\r\n\r\nA", {"", "", "A"}},
-      {"A\r\r\nB", {"A", "", "B"}},
-      {"A\n\rB\r", {"A", "", "B"}},
-      {std::string("A\0B\n", 4), {std::string("A\0B", 3)}},
-  };
+  const Case cases[] = {{"", {}},
+                        {"A", {"A"}},
+                        {"A\r\n", {"A"}},
+                        {"A\r\nB\nC\rD", {"A", "B", "C", "D"}},
+                        {"\r\n\r\nA", {"", "", "A"}},
+                        {"A\r\r\nB", {"A", "", "B"}},
+                        {"A\n\rB\r", {"A", "", "B"}},
+                        {std::string("A\0B\n", 4), {std::string("A\0B", 3)}}};
   for (const Case& c : cases) {
     Lines lines(c.bytes);
     std::vector<std::string> found;

@@ -45,27 +45,25 @@ TEST(SettingsSnapshot, ReadsOneKey) {
     const char* key;
     std::string value;
   };
-  const Case cases[] = {
-      {"SETTINGS", "ip", "1.2.3.4"},
-      {"Settings", "Units", "in"},
-      {"Settings", ";Units", "none"},
-      {"Settings", "Quoted", " a b "},
-      {"Settings", "Single", "x"},
-      {"Settings", "Half", "\"x"},
-      {"Settings", "Lone", "\""},
-      {"Settings", "Twice", "\"x\""},
-      {"Settings", "Equals", "a=b;c"},
-      {"Settings", "A=B.BMP", "1,2"},
-      {"Settings", "Word", "none"},
-      {"Settings", "Empty", ""},
-      {"Settings", "Long", std::string(255, 'x')},
-      {"Settings", "Late", "none"},
-      {"Settings", "Lost", "none"},
-      {"First", "lost", "none"},
-      {"machines", "IP", "9"},
-      {"Open", "A", "1"},
-      {"None", "IP", "none"},
-  };
+  const Case cases[] = {{"SETTINGS", "ip", "1.2.3.4"},
+                        {"Settings", "Units", "in"},
+                        {"Settings", ";Units", "none"},
+                        {"Settings", "Quoted", " a b "},
+                        {"Settings", "Single", "x"},
+                        {"Settings", "Half", "\"x"},
+                        {"Settings", "Lone", "\""},
+                        {"Settings", "Twice", "\"x\""},
+                        {"Settings", "Equals", "a=b;c"},
+                        {"Settings", "A=B.BMP", "1,2"},
+                        {"Settings", "Word", "none"},
+                        {"Settings", "Empty", ""},
+                        {"Settings", "Long", std::string(255, 'x')},
+                        {"Settings", "Late", "none"},
+                        {"Settings", "Lost", "none"},
+                        {"First", "lost", "none"},
+                        {"machines", "IP", "9"},
+                        {"Open", "A", "1"},
+                        {"None", "IP", "none"}};
   for (const Case& c : cases) EXPECT_EQ(snapshot.Get(c.section, c.key, "none"), c.value) << c.key;
   EXPECT_EQ(snapshot.Number("Settings", "IP", "5"), 1.2);
   EXPECT_EQ(snapshot.Number("Settings", "GridSpacing", "5"), 5);
@@ -76,15 +74,13 @@ TEST(SettingsSnapshot, ListsASectionAsFarAsItsEntriesGo) {
     std::string lines;
     Table table;
   };
-  const Case cases[] = {
-      {"A = 1 \r\n\r\n;C=1\r\nB=\"2\"\r\n[Other]\r\nC=3", {{"A", "1"}, {"B", "\"2\""}}},
-      {"A=1=2\r\nB=3;4\r\n", {{"A", "1"}, {"B", "3"}, {"4", ""}}},
-      {"A=1;;\r\nB=2", {{"A", "1"}}},
-      {"A=;x\r\nB=2", {{"A", ""}, {"x", ""}, {"B", "2"}}},
-      {"Word\r\n=3\r\nB==2", {{"Word", ""}, {"B", ""}}},
-      {std::string("A=1\0B=2\0\0C=3", 13), {{"A", "1"}, {"B", "2"}}},
-      {"", {}},
-  };
+  const Case cases[] = {{"A = 1 \r\n\r\n;C=1\r\nB=\"2\"\r\n[Other]\r\nC=3", {{"A", "1"}, {"B", "\"2\""}}},
+                        {"A=1=2\r\nB=3;4\r\n", {{"A", "1"}, {"B", "3"}, {"4", ""}}},
+                        {"A=1;;\r\nB=2", {{"A", "1"}}},
+                        {"A=;x\r\nB=2", {{"A", ""}, {"x", ""}, {"B", "2"}}},
+                        {"Word\r\n=3\r\nB==2", {{"Word", ""}, {"B", ""}}},
+                        {std::string("A=1\0B=2\0\0C=3", 13), {{"A", "1"}, {"B", "2"}}},
+                        {"", {}}};
   for (const Case& c : cases) {
     EXPECT_EQ(SettingsSnapshot("[Machines]\r\n" + c.lines).GetAll("machines"), c.table) << c.lines;
   }
@@ -113,8 +109,7 @@ TEST_F(SettingsTest, WritesChangeNothingElse) {
       {"[S]\nK=1", {"T", "K", "", true}, "[S]\nK=1"},
       {"[S]\na=b.bmp=1\n", {"S", "A=B.bmp", "2"}, "[S]\na=b.bmp=2\n"},
       {"[S]\n", {"S", "K\r\n", "1\r\n[T]\tx"}, "[S]\nK=1[T]x\r\n"},
-      {"[S]\nlong key=1\n", {"S", "long", "2"}, "[S]\nlong key=1\nlong=2\r\n"},
-  };
+      {"[S]\nlong key=1\n", {"S", "long", "2"}, "[S]\nlong key=1\nlong=2\r\n"}};
   for (const Case& c : cases) EXPECT_EQ(SavedTo(c.before, {c.change}), c.after) << c.before;
 }
 

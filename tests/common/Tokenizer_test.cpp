@@ -26,19 +26,17 @@ TEST(Tokenizer, Steps) {
     bool any;
     std::vector<std::string> tokens;
   };
-  const Case cases[] = {
-      {"", ",", false, {"!"}},
-      {"A", ",", false, {"A!", "!"}},
-      {"A,B", ",", false, {"A", "B!", "!"}},
-      {"A,,B", ",", false, {"A", "", "B!", "!"}},
-      {"A,", ",", false, {"A", "", "!"}},
-      {",", ",", false, {"", "", "!"}},
-      {"A@@B@C", "@@", false, {"A", "B@C!", "!"}},
-      {"A,B", "", false, {"A,B", "!"}},
-      {"A;B,C", ",;", true, {"A", "B", "C!", "!"}},
-      {"A,B;", ",;", true, {"A", "B", "", "!"}},
-      {"A,B", "", true, {"A,B", "!"}},
-  };
+  const Case cases[] = {{"", ",", false, {"!"}},
+                        {"A", ",", false, {"A!", "!"}},
+                        {"A,B", ",", false, {"A", "B!", "!"}},
+                        {"A,,B", ",", false, {"A", "", "B!", "!"}},
+                        {"A,", ",", false, {"A", "", "!"}},
+                        {",", ",", false, {"", "", "!"}},
+                        {"A@@B@C", "@@", false, {"A", "B@C!", "!"}},
+                        {"A,B", "", false, {"A,B", "!"}},
+                        {"A;B,C", ",;", true, {"A", "B", "C!", "!"}},
+                        {"A,B;", ",;", true, {"A", "B", "", "!"}},
+                        {"A,B", "", true, {"A,B", "!"}}};
   for (const Case& c : cases) {
     EXPECT_EQ(Scan(c.text, c.delimiter, c.any), c.tokens) << c.text;
     if (c.any) continue;

@@ -9,27 +9,25 @@ TEST(ModuleRows, ReadsOneFieldForEachRow) {
   const struct {
     std::string bytes;
     ModuleRows rows;
-  } cases[] = {
-      {"* *\r\n***\r\n", {"* *", "***"}},
-      {"\"  *\"\r\n\"*  \"\r\n", {"  *", "*  "}},  // quotes keep blanks
-      {"   * *\n***", {"* *", "***"}},             // without them leading blanks are lost
-      {"*  \r\n***", {"*  ", "***"}},              // trailing ones are not
-      {"***,* *\r\n", {"***", "* *"}},             // a comma ends a field
-      {"  \"***\" rest,* *\r\n", {"***", "* *"}},
-      {"\"***\r\n* *", {"***", "* *"}},  // an open quote ends with its line
-      {"***\r\n\r\n\r\n", {"***"}},
-      // No symbol at all.
-      {"", {}},
-      {"\r\n", {}},
-      {"***\r\n**\r\n", {}},
-      {"***\r\n  *\r\n", {}},
-      {"***\r\n\r\n***\r\n", {}},
-      {"***,\r\n", {}},
-      {"*#*\r\n", {}},
-      {"\"* *\"\"\r\n\"*\x1A*\"", {}},
-      {std::string("*\0*", 3), {}},
-      {"SQRGEN: text too long\r\n", {}},
-  };
+  } cases[] = {{"* *\r\n***\r\n", {"* *", "***"}},
+               {"\"  *\"\r\n\"*  \"\r\n", {"  *", "*  "}},  // quotes keep blanks
+               {"   * *\n***", {"* *", "***"}},             // without them leading blanks are lost
+               {"*  \r\n***", {"*  ", "***"}},              // trailing ones are not
+               {"***,* *\r\n", {"***", "* *"}},             // a comma ends a field
+               {"  \"***\" rest,* *\r\n", {"***", "* *"}},
+               {"\"***\r\n* *", {"***", "* *"}},  // an open quote ends with its line
+               {"***\r\n\r\n\r\n", {"***"}},
+               // No symbol at all.
+               {"", {}},
+               {"\r\n", {}},
+               {"***\r\n**\r\n", {}},
+               {"***\r\n  *\r\n", {}},
+               {"***\r\n\r\n***\r\n", {}},
+               {"***,\r\n", {}},
+               {"*#*\r\n", {}},
+               {"\"* *\"\"\r\n\"*\x1A*\"", {}},
+               {std::string("*\0*", 3), {}},
+               {"SQRGEN: text too long\r\n", {}}};
   for (const auto& c : cases) EXPECT_EQ(ParseModuleRows(c.bytes), c.rows) << c.bytes;
 }
 

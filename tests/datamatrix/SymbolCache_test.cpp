@@ -74,8 +74,7 @@ TEST_F(SymbolCache, AFailedBuildLeavesNoRowsAndIsTriedAgain) {
       +[](test::SideProgramStation& s) { s.Expect("out.txt", ""); },
       +[](test::SideProgramStation& s) { s.Expect("out.txt", "* *\r\n**\r\n"); },
       +[](test::SideProgramStation& s) { s.Expect("out.txt", "Text too long"); },
-      +[](test::SideProgramStation& s) { s.Expect("out.txt", std::string(5'000'000, '*')); },
-  };
+      +[](test::SideProgramStation& s) { s.Expect("out.txt", std::string(5'000'000, '*')); }};
   std::size_t runs = 0;
   for (const auto& expectFailure : failures) {
     expectFailure(station_);

@@ -26,10 +26,11 @@ TEST(modDataMatrix, ContentEndsAtTheFirstMarker) {
     std::string rest;
     std::string preview;
     std::string editor;
-  } cases[] = {
-      {"A@ENDDM@B@ENDDM@", "A", "A"}, {"@ENDDM@", "", ""}, {"A@ENDDM", "", "A@ENDDM"}, {"", "", ""},
-      {"\r\n\r\n", "", "\r\n\r\n"},
-  };
+  } cases[] = {{"A@ENDDM@B@ENDDM@", "A", "A"},
+               {"@ENDDM@", "", ""},
+               {"A@ENDDM", "", "A@ENDDM"},
+               {"", "", ""},
+               {"\r\n\r\n", "", "\r\n\r\n"}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.rest);
     EXPECT_EQ(ParseDataMatrix(head + c.rest, MissingMarker::Empties).Content, c.preview);

@@ -86,8 +86,7 @@ TEST(DrawFile, ViewersKnowTheirOwnWords) {
       // A broken arc ends the pass where the word is known.
       {"G01X1Y0\nG02X1Y1\nG01X2Y0", "c255 w3 0,0>1,0; ", "c10 w1 0,0>1,0; ", "c10 w3 0,0>1,0; ",
        "c0 w1 0,0>1,0; c0 w1 1,0>2,0; "},
-      {"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "},
-  };
+      {"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "}};
   for (const auto& c : cases) {
     EXPECT_EQ(Draw(Options(Viewer::Graphic), c.text), c.graphic) << c.text;
     EXPECT_EQ(Draw(Options(Viewer::Preview), c.text), c.preview) << c.text;

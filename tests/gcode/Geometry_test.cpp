@@ -29,17 +29,15 @@ TEST(Geometry, AnglesRunFromEastThroughNorthAndBack) {
     Point point;
     float angle;
     float radius;
-  } cases[] = {
-      {{3, 2}, 0, 2},
-      {{1, 0}, 90, 2},
-      {{-1, 2}, 180, 2},
-      {{1, 4}, 270, 2},
-      {{1, 2}, 0, 0},
-      {{2, 1}, 45, std::sqrt(2.0F)},
-      {{0, 1}, 135, std::sqrt(2.0F)},
-      {{0, 3}, 225, std::sqrt(2.0F)},
-      {{2, 3}, 315, std::sqrt(2.0F)},
-  };
+  } cases[] = {{{3, 2}, 0, 2},
+               {{1, 0}, 90, 2},
+               {{-1, 2}, 180, 2},
+               {{1, 4}, 270, 2},
+               {{1, 2}, 0, 0},
+               {{2, 1}, 45, std::sqrt(2.0F)},
+               {{0, 1}, 135, std::sqrt(2.0F)},
+               {{0, 3}, 225, std::sqrt(2.0F)},
+               {{2, 3}, 315, std::sqrt(2.0F)}};
   for (const auto& c : cases) {
     const AngleRadius got = GetAngleAndRadius(1, 2, c.point.x, c.point.y);
     EXPECT_FLOAT_EQ(got.angle, c.angle) << c.point.x << ',' << c.point.y;
@@ -53,13 +51,11 @@ TEST(Geometry, RotateAboutTurnsCounterClockwiseOnTheDisplay) {
     Point point;
     float degrees;
     Point expected;
-  } cases[] = {
-      {{2, 1}, 90, {1, 0}},  {{1, 0}, 90, {0, 1}},
-      {{0, 1}, 90, {1, 2}},  {{1, 2}, 90, {2, 1}},
-      {{2, 2}, 90, {2, 0}},  {{2, 0}, -90, {2, 2}},
-      {{0, 2}, 180, {2, 0}}, {{0, 0}, 360, {0, 0}},
-      {{1, 1}, 77, {1, 1}},  {{1, 3}, 45, {1 + std::sqrt(2.0F), 1 + std::sqrt(2.0F)}},
-  };
+  } cases[] = {{{2, 1}, 90, {1, 0}},  {{1, 0}, 90, {0, 1}},
+               {{0, 1}, 90, {1, 2}},  {{1, 2}, 90, {2, 1}},
+               {{2, 2}, 90, {2, 0}},  {{2, 0}, -90, {2, 2}},
+               {{0, 2}, 180, {2, 0}}, {{0, 0}, 360, {0, 0}},
+               {{1, 1}, 77, {1, 1}},  {{1, 3}, 45, {1 + std::sqrt(2.0F), 1 + std::sqrt(2.0F)}}};
   for (const auto& c : cases) {
     ExpectNear(RotateAbout(1, 1, c.point.x, c.point.y, c.degrees), c.expected);
   }
@@ -72,10 +68,11 @@ TEST(Geometry, StepsAlongATextCircle) {
   const struct {
     float angle, radius, width;
     ArcStep expected;
-  } cases[] = {
-      {90, 2, quarter, {2, 0, -90}}, {90, 2, -quarter, {-2, 0, 90}}, {90, 2, 0, {0, 2, 0}},
-      {90, 0, 5, {0, 0, 0}},         {90, -2, quarter, {2, 0, 90}},
-  };
+  } cases[] = {{90, 2, quarter, {2, 0, -90}},
+               {90, 2, -quarter, {-2, 0, 90}},
+               {90, 2, 0, {0, 2, 0}},
+               {90, 0, 5, {0, 0, 0}},
+               {90, -2, quarter, {2, 0, 90}}};
   for (const auto& c : cases) {
     const ArcStep got = StepAroundArc(c.angle, c.radius, c.width);
     ExpectNear({got.x, got.y}, {c.expected.x, c.expected.y});
@@ -90,16 +87,14 @@ TEST(Geometry, ArcsAreWalkedInStepsOfOneDegree) {
     bool clockwise;
     std::size_t points;  // with both ends of the walk, and the exact target
     Point tenth;         // after ten degrees
-  } cases[] = {
-      {"north to east, clockwise", {0, -1}, {1, 0}, true, 92, {0.1736482F, -0.9848078F}},
-      {"east to north, counter-clockwise", {1, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}},
-      {"the long way, clockwise", {1, 0}, {0, -1}, true, 272, {0.9848078F, 0.1736482F}},
-      {"the long way, counter-clockwise", {0, -1}, {1, 0}, false, 272, {-0.1736482F, -0.9848078F}},
-      {"full, clockwise", {1, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
-      {"full, counter-clockwise", {1, 0}, {1, 0}, false, 362, {0.9848078F, -0.1736482F}},
-      {"equal angles, other radius", {2, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
-      {"radius of the target", {5, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}},
-  };
+  } cases[] = {{"north to east, clockwise", {0, -1}, {1, 0}, true, 92, {0.1736482F, -0.9848078F}},
+               {"east to north, counter-clockwise", {1, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}},
+               {"the long way, clockwise", {1, 0}, {0, -1}, true, 272, {0.9848078F, 0.1736482F}},
+               {"the long way, counter-clockwise", {0, -1}, {1, 0}, false, 272, {-0.1736482F, -0.9848078F}},
+               {"full, clockwise", {1, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
+               {"full, counter-clockwise", {1, 0}, {1, 0}, false, 362, {0.9848078F, -0.1736482F}},
+               {"equal angles, other radius", {2, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
+               {"radius of the target", {5, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const std::vector<Point> points = Walk(c.start, c.end, {0, 0}, c.clockwise);
@@ -120,12 +115,10 @@ TEST(Geometry, TurnsEndWhereTheirAngleSays) {
     bool clockwise;
     std::size_t points;
     Point drawnTo, end;
-  } cases[] = {
-      {0.5F, true, 182, {-1, 0}, {-1, 0}}, {-0.25F, false, 92, {0, -1}, {0, -1}},
-      {1, true, 362, {1, 0}, {1, 0}},      {-1, false, 362, {1, 0}, {1, 0}},
-      {0, true, 362, {1, 0}, {1, 0}},      {2, true, 362, {1, 0}, {1, 0}},
-      {1.5F, true, 362, {1, 0}, {-1, 0}},  {-2.25F, false, 362, {1, 0}, {0, -1}},
-  };
+  } cases[] = {{0.5F, true, 182, {-1, 0}, {-1, 0}}, {-0.25F, false, 92, {0, -1}, {0, -1}},
+               {1, true, 362, {1, 0}, {1, 0}},      {-1, false, 362, {1, 0}, {1, 0}},
+               {0, true, 362, {1, 0}, {1, 0}},      {2, true, 362, {1, 0}, {1, 0}},
+               {1.5F, true, 362, {1, 0}, {-1, 0}},  {-2.25F, false, 362, {1, 0}, {0, -1}}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.turns);
     const Turn turn = TurnAbout({1, 0}, {0, 0}, c.turns);

@@ -14,21 +14,19 @@ TEST(MeasureDistances, CountsAsTheReportDoes) {
   const struct {
     const char* text;
     double move, feed;
-  } cases[] = {
-      {"", 0, 0},
-      {"G90\nG00X3Y4\nG01X3Y10\nG00X0Y10", 8, 6},
-      {"G00X1Y0\nG02X1Y0I0J0\nG03X0Y-1I0J0", 1, 6.28318 * 1.25},
-      {"G01X3Y4Z9", 0, 5},
-      // Y-only moves, turns and small letters are not seen.
-      {"G01X1Y0\nG01Y5\nG05T1I0J0P0\ng01x9y9\nG01X2Y0", 0, 2},
-      // A tool change keeps the position, an unknown line behind it goes to 0, 0 as a rapid.
-      {"G01X3Y4\nM06T2\nG01X3Y5", 0, 6},
-      {"G01X3Y4\nM06T2\nW5\nG01X3Y4", 5, 10},
-      {"G01X3Y4\nM06T0\n\nnote\nG01X3Y4", 5, 10},
-      {"G01X3Y4\nnote\nG01X3Y4", 0, 5},
-      // A centre of -1 stands for none.
-      {"G02X3Y4I-1J0", 0, 5},
-  };
+  } cases[] = {{"", 0, 0},
+               {"G90\nG00X3Y4\nG01X3Y10\nG00X0Y10", 8, 6},
+               {"G00X1Y0\nG02X1Y0I0J0\nG03X0Y-1I0J0", 1, 6.28318 * 1.25},
+               {"G01X3Y4Z9", 0, 5},
+               // Y-only moves, turns and small letters are not seen.
+               {"G01X1Y0\nG01Y5\nG05T1I0J0P0\ng01x9y9\nG01X2Y0", 0, 2},
+               // A tool change keeps the position, an unknown line behind it goes to 0, 0 as a rapid.
+               {"G01X3Y4\nM06T2\nG01X3Y5", 0, 6},
+               {"G01X3Y4\nM06T2\nW5\nG01X3Y4", 5, 10},
+               {"G01X3Y4\nM06T0\n\nnote\nG01X3Y4", 5, 10},
+               {"G01X3Y4\nnote\nG01X3Y4", 0, 5},
+               // A centre of -1 stands for none.
+               {"G02X3Y4I-1J0", 0, 5}};
   for (const auto& c : cases) {
     const Distances got = MeasureDistances(ReadProgram(c.text));
     EXPECT_NEAR(got.move, c.move, 1e-5) << c.text;

@@ -38,13 +38,11 @@ TEST(modFixture, ReadsTheLinesWithSeveralValues) {
     bool isTemplate;
     const char* start;
     const char* end;
-  } cases[] = {
-      {"12.5,False", "0,0@@", 12.5F, false, false, "", ""},
-      {"junk,true", "0,@A@B@C", 0, true, false, "A", "B@C"},
-      {",-1", "0", 0, true, false, "", ""},
-      {"1e99,0", ",1", 3.402823466e38F, false, true, "", ""},
-      {"2,FALSE", "", 2, false, false, "", ""},
-  };
+  } cases[] = {{"12.5,False", "0,0@@", 12.5F, false, false, "", ""},
+               {"junk,true", "0,@A@B@C", 0, true, false, "A", "B@C"},
+               {",-1", "0", 0, true, false, "", ""},
+               {"1e99,0", ",1", 3.402823466e38F, false, true, "", ""},
+               {"2,FALSE", "", 2, false, false, "", ""}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.lengthLine);
     const Fixture fixture = ParseFixture(WithTail(c.lengthLine, c.templateLine));
@@ -60,16 +58,14 @@ TEST(modFixture, FailsAsAWhole) {
   const struct {
     std::string bytes;
     int number;
-  } cases[] = {
-      {"", common::kInputPastEndOfFile},
-      {"0\r\n1\r\n", common::kInputPastEndOfFile},
-      {kHead, common::kInputPastEndOfFile},
-      {kHead + "12.5,True\r\n", common::kInputPastEndOfFile},
-      {WithTail("12.5", "0,0@@"), common::kTypeMismatch},
-      {WithTail("12.5,yes", "0,0@@"), common::kTypeMismatch},
-      {WithTail("12.5,True,", "0,0@@"), common::kTypeMismatch},
-      {WithTail("12.5,True", "0,x@@"), common::kTypeMismatch},
-  };
+  } cases[] = {{"", common::kInputPastEndOfFile},
+               {"0\r\n1\r\n", common::kInputPastEndOfFile},
+               {kHead, common::kInputPastEndOfFile},
+               {kHead + "12.5,True\r\n", common::kInputPastEndOfFile},
+               {WithTail("12.5", "0,0@@"), common::kTypeMismatch},
+               {WithTail("12.5,yes", "0,0@@"), common::kTypeMismatch},
+               {WithTail("12.5,True,", "0,0@@"), common::kTypeMismatch},
+               {WithTail("12.5,True", "0,x@@"), common::kTypeMismatch}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.bytes);
     try {

@@ -1,6 +1,7 @@
 // A clock that stands still until someone waits.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 
 #include "platform/Clock.h"
@@ -13,22 +14,18 @@ class FakeClock : public platform::Clock {
   platform::DateTime now{2024, 3, 5, 14, 7, 9};
   double seconds = 0;
   int totalSlept = 0;  // milliseconds
-  int eventRounds = 0;
   // Runs after each wait, as events would in it, with the milliseconds that passed (0 for DoEvents).
   std::function<void(int)> onWait;
 
   platform::DateTime Now() const override { return now; }
   double MonotonicSeconds() const override { return seconds; }
   void Sleep(int milliseconds) override {
-    if (milliseconds < 0) milliseconds = 0;
+    milliseconds = std::max(milliseconds, 0);
     seconds += milliseconds / 1000.0;
     totalSlept += milliseconds;
     if (onWait) onWait(milliseconds);
   }
-  void DoEvents() override {
-    ++eventRounds;
-    if (onWait) onWait(0);
-  }
+  void DoEvents() override { Sleep(0); }
 };
 
 }  // namespace morvane::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace morvane::test {
 
@@ -12,24 +13,14 @@ using platform::Error;
 namespace {
 
 std::string Parent(const std::string& path) {
-  const std::size_t slash = path.find_last_of('/');
-  return slash == 0 || slash == std::string::npos ? "/" : path.substr(0, slash);
+  return std::filesystem::path(path).parent_path().string();
 }
 
 // Without empty parts, "." and "..".
 std::string Clean(const std::string& path) {
-  std::string result;
-  for (std::size_t begin = 0; begin < path.size();) {
-    const std::size_t end = std::min(path.find('/', begin), path.size());
-    const std::string part = path.substr(begin, end - begin);
-    begin = end + 1;
-    if (part == "..") {
-      result.erase(result.empty() ? 0 : result.find_last_of('/'));
-    } else if (!part.empty() && part != ".") {
-      result += "/" + part;
-    }
-  }
-  return result.empty() ? "/" : result;
+  std::string clean = std::filesystem::path(path).lexically_normal().string();
+  if (clean.size() > 1 && clean.back() == '/') clean.pop_back();
+  return clean;
 }
 
 }  // namespace
@@ -41,9 +32,9 @@ class FakeOutputFile : public platform::OutputFile {
 
   Error Write(std::string_view bytes) override {
     auto& left = owner_.faults.bytesLeft;
-    const std::size_t fits = left ? std::min(*left, bytes.size()) : bytes.size();
+    const std::size_t fits = std::min(left.value_or(bytes.size()), bytes.size());
     if (left) *left -= fits;
-    auto& file = owner_.files_.at(path_);
+    auto& file = owner_.entries_.at(path_);
     file.bytes += bytes.substr(0, fits);
     file.modified = owner_.NextTime();
     return fits == bytes.size() ? Error::None : Error::DiskFull;
@@ -56,59 +47,56 @@ class FakeOutputFile : public platform::OutputFile {
   std::string path_;
 };
 
-FakeFileSystem::FakeFileSystem(const std::string& directory) {
-  MakeDirectories(directory);
-}
-
 void FakeFileSystem::MakeDirectories(const std::string& path) {
-  for (std::string at = Clean(path); directories_.insert(at).second;) at = Parent(at);
+  for (std::string at = Clean(path); entries_.insert({at, {}}).second;) at = Parent(at);
 }
 
 void FakeFileSystem::Put(const std::string& path, std::string bytes) {
   MakeDirectories(Parent(path));
-  files_[path] = {std::move(bytes), NextTime(), true};
+  entries_[path] = {EntryKind::File, std::move(bytes), NextTime()};
 }
 
 std::string FakeFileSystem::Get(const std::string& path) const {
-  const auto found = files_.find(path);
-  EXPECT_NE(found, files_.end()) << "no file " << path;
-  return found == files_.end() ? std::string() : found->second.bytes;
+  EXPECT_TRUE(Has(path)) << "no file " << path;
+  return Has(path) ? entries_.at(path).bytes : std::string();
+}
+
+EntryKind FakeFileSystem::KindOf(const std::string& cleanPath) const {
+  return Has(cleanPath) ? entries_.at(cleanPath).kind : EntryKind::Missing;
+}
+
+Error FakeFileSystem::CheckFile(const std::string& cleanPath) const {
+  const EntryKind kind = KindOf(cleanPath);
+  if (kind == EntryKind::Missing) return Has(Parent(cleanPath)) ? Error::FileNotFound : Error::PathNotFound;
+  return kind == EntryKind::File ? Error::None : Error::AccessError;
+}
+
+Error FakeFileSystem::CheckPlace(const std::string& cleanPath) const {
+  if (KindOf(Parent(cleanPath)) != EntryKind::Directory) return Error::PathNotFound;
+  return KindOf(cleanPath) == EntryKind::Directory ? Error::AccessError : Error::None;
 }
 
 platform::FileStatus FakeFileSystem::Status(const std::string& path) const {
   ++statusCalls;
-  const std::string clean = Clean(path);
-  if (directories_.count(clean)) return {EntryKind::Directory, 0, 0, true};
-  const auto found = files_.find(clean);
-  if (found == files_.end()) return {};
-  const File& file = found->second;
-  return {EntryKind::File, file.bytes.size(), file.modified, file.writable};
-}
-
-Error FakeFileSystem::Missing(const std::string& path) const {
-  return directories_.count(Parent(path)) ? Error::FileNotFound : Error::PathNotFound;
+  const auto found = entries_.find(Clean(path));
+  if (found == entries_.end()) return {};
+  const Entry& entry = found->second;
+  return {entry.kind, entry.bytes.size(), entry.modified, entry.writable};
 }
 
 Error FakeFileSystem::Read(const std::string& path, std::string& bytes) const {
-  const std::string clean = Clean(path);
-  if (faults.read != Error::None) return faults.read;
-  if (directories_.count(clean)) return Error::AccessError;
-  const auto found = files_.find(clean);
-  if (found == files_.end()) return Missing(clean);
-  bytes = found->second.bytes;
-  return Error::None;
+  const Error error = faults.read == Error::None ? CheckFile(Clean(path)) : faults.read;
+  if (error == Error::None) bytes = entries_.at(Clean(path)).bytes;
+  return error;
 }
 
 Error FakeFileSystem::List(const std::string& directory, std::vector<std::string>& names) const {
   const std::string clean = Clean(directory);
   names.clear();
-  if (!directories_.count(clean)) return Error::PathNotFound;
-  const auto add = [&](const std::string& path) {
+  for (const auto& [path, entry] : entries_) {
     if (path != "/" && Parent(path) == clean) names.push_back(path.substr(path.find_last_of('/') + 1));
-  };
-  for (const auto& file : files_) add(file.first);
-  for (const auto& folder : directories_) add(folder);
-  return Error::None;
+  }
+  return KindOf(clean) == EntryKind::Directory ? Error::None : Error::PathNotFound;
 }
 
 std::string FakeFileSystem::RealPath(const std::string& path) const {
@@ -116,51 +104,44 @@ std::string FakeFileSystem::RealPath(const std::string& path) const {
 }
 
 std::unique_ptr<platform::OutputFile> FakeFileSystem::Create(const std::string& path, Error& error) {
-  const std::string clean = Clean(path);
-  error = faults.create;
-  if (directories_.count(clean)) error = Error::AccessError;
-  if (!directories_.count(Parent(clean))) error = Error::PathNotFound;
+  error = faults.create == Error::None ? CheckPlace(Clean(path)) : faults.create;
   if (error != Error::None) return nullptr;
-  files_[clean] = {"", NextTime(), true};
-  return std::make_unique<FakeOutputFile>(*this, clean);
+  entries_[Clean(path)] = {EntryKind::File, "", NextTime()};
+  return std::make_unique<FakeOutputFile>(*this, Clean(path));
 }
 
 std::unique_ptr<platform::OutputFile> FakeFileSystem::CreateNew(const std::string& path, const std::string&,
                                                                 Error& error) {
-  if (Status(path).kind == EntryKind::Missing) return Create(path, error);
+  if (!Has(Clean(path))) return Create(path, error);
   error = Error::AlreadyExists;
   return nullptr;
 }
 
 Error FakeFileSystem::MakeDirectory(const std::string& path) {
-  const std::string clean = Clean(path);
-  if (Status(clean).kind != EntryKind::Missing) return Error::AlreadyExists;
-  if (!directories_.count(Parent(clean))) return Error::PathNotFound;
-  directories_.insert(clean);
-  return Error::None;
+  if (Has(Clean(path))) return Error::AlreadyExists;
+  const Error error = CheckPlace(Clean(path));
+  if (error == Error::None) entries_[Clean(path)] = {};
+  return error;
 }
 
 Error FakeFileSystem::Remove(const std::string& path) {
-  const std::string clean = Clean(path);
-  if (directories_.count(clean)) return Error::AccessError;
-  return files_.erase(clean) ? Error::None : Missing(clean);
+  const Error error = CheckFile(Clean(path));
+  if (error == Error::None) entries_.erase(Clean(path));
+  return error;
 }
 
 Error FakeFileSystem::Rename(const std::string& from, const std::string& to) {
-  const auto found = files_.find(Clean(from));
-  if (faults.rename != Error::None) return faults.rename;
-  if (found == files_.end()) return Missing(Clean(from));
-  if (directories_.count(Clean(to))) return Error::AccessError;
-  if (!directories_.count(Parent(Clean(to)))) return Error::PathNotFound;
-  File file = std::move(found->second);
-  files_.erase(found);
-  files_[Clean(to)] = std::move(file);
+  for (const Error error : {faults.rename, CheckFile(Clean(from)), CheckPlace(Clean(to))}) {
+    if (error != Error::None) return error;
+  }
+  entries_[Clean(to)] = std::move(entries_.at(Clean(from)));
+  entries_.erase(Clean(from));
   return Error::None;
 }
 
 Error FakeFileSystem::SyncDirectory(const std::string& path) {
   if (faults.syncDirectory != Error::None) return faults.syncDirectory;
-  return directories_.count(Clean(path)) ? Error::None : Error::PathNotFound;
+  return KindOf(Clean(path)) == EntryKind::Directory ? Error::None : Error::PathNotFound;
 }
 
 }  // namespace morvane::test

@@ -3,7 +3,6 @@
 
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 
 #include "platform/FileSystem.h"
@@ -15,27 +14,22 @@ class FakeFileSystem : public platform::FileSystem {
   // What goes wrong, until it is reset.
   struct Faults {
     std::optional<std::size_t> bytesLeft;  // a Write beyond takes what fits and reports a full disk
-    platform::Error read = platform::Error::None;
-    platform::Error create = platform::Error::None;
-    platform::Error sync = platform::Error::None;
-    platform::Error close = platform::Error::None;
-    platform::Error rename = platform::Error::None;
-    platform::Error syncDirectory = platform::Error::None;
+    platform::Error read{}, create{}, sync{}, close{}, rename{}, syncDirectory{};
   };
   Faults faults;
   mutable int statusCalls = 0;
 
-  // The directories that exist at first, with all above them.
-  explicit FakeFileSystem(const std::string& directory = "/base");
+  // The directory that exists at first, with all above it.
+  explicit FakeFileSystem(const std::string& directory = "/base") { MakeDirectories(directory); }
 
   // Makes or replaces a file, with the folders above it.
   void Put(const std::string& path, std::string bytes);
   // Bytes of a file; fails the test when it is missing.
   std::string Get(const std::string& path) const;
-  bool Has(const std::string& path) const { return files_.count(path) != 0; }
-  void SetModified(const std::string& path, std::int64_t time) { files_.at(path).modified = time; }
+  bool Has(const std::string& path) const { return entries_.count(path) != 0; }
+  void SetModified(const std::string& path, std::int64_t time) { entries_.at(path).modified = time; }
   // Status tells it, but nothing is refused here: an administrator's program could write all the same.
-  void SetWritable(const std::string& path, bool writable) { files_.at(path).writable = writable; }
+  void SetWritable(const std::string& path, bool writable) { entries_.at(path).writable = writable; }
 
   platform::FileStatus Status(const std::string& path) const override;
   platform::Error Read(const std::string& path, std::string& bytes) const override;
@@ -51,19 +45,21 @@ class FakeFileSystem : public platform::FileSystem {
 
  private:
   friend class FakeOutputFile;
-  struct File {
-    std::string bytes;
+  struct Entry {
+    platform::EntryKind kind = platform::EntryKind::Directory;
+    std::string bytes = {};
     std::int64_t modified = 0;
     bool writable = true;
   };
-  // A path to an entry that does not exist: which of the two not-found errors it is.
-  platform::Error Missing(const std::string& path) const;
+  platform::EntryKind KindOf(const std::string& cleanPath) const;
+  // What stands against using the path as an existing file, and as the place of a new one.
+  platform::Error CheckFile(const std::string& cleanPath) const;
+  platform::Error CheckPlace(const std::string& cleanPath) const;
   void MakeDirectories(const std::string& path);
   // Each change is one second later than the last.
   std::int64_t NextTime() { return time_ += 1'000'000'000; }
 
-  std::map<std::string, File> files_;
-  std::set<std::string> directories_{"/"};
+  std::map<std::string, Entry> entries_{{"/", {}}};
   std::int64_t time_ = 0;
 };
 

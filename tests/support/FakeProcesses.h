@@ -30,7 +30,31 @@ class FakeProcesses : public platform::Processes {
 
   std::unique_ptr<platform::Process> Start(const std::string& program,
                                            const std::vector<std::string>& arguments,
-                                           const std::string& workingDirectory) override;
+                                           const std::string& workingDirectory) override {
+    const Script script = scripts.empty() ? Script() : scripts.front();
+    if (!scripts.empty()) scripts.pop_front();
+    runs.push_back({program, arguments, workingDirectory});
+    if (!script.starts) return nullptr;
+    if (script.effect) script.effect();
+    return std::make_unique<Process>(script, runs.back());
+  }
+
+ private:
+  class Process : public platform::Process {
+   public:
+    Process(Script script, Run& run) : script_(std::move(script)), run_(run) {}
+    std::optional<int> ExitCode() override {
+      if (run_.terminated) return 128 + 15;
+      if (script_.pollsUntilEnd == 0) return script_.exitCode;
+      if (script_.pollsUntilEnd > 0) --script_.pollsUntilEnd;
+      return std::nullopt;
+    }
+    void Terminate() override { run_.terminated = script_.pollsUntilEnd != 0; }
+
+   private:
+    Script script_;
+    Run& run_;
+  };
 };
 
 }  // namespace morvane::test

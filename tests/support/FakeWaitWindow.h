@@ -1,8 +1,7 @@
-// Wait window and progress figure that only keep what they were told.
+// A wait window that only keeps what it was told.
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/Prompts.h"
@@ -19,18 +18,6 @@ class FakeWaitWindow : public platform::WaitWindow {
     texts.push_back(text);
   }
   void Close() override { shown = false; }
-};
-
-class FakeProgress : public platform::Progress {
- public:
-  bool shown = false;
-  std::vector<std::pair<std::int64_t, std::int64_t>> steps;  // done, known
-
-  void Set(std::int64_t done, std::int64_t known) override {
-    shown = true;
-    steps.emplace_back(done, known);
-  }
-  void Clear() override { shown = false; }
 };
 
 }  // namespace morvane::test

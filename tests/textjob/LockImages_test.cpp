@@ -24,13 +24,11 @@ TEST_F(LockImages, FindsAJobByItsNameAlone) {
     bool found;
     const char* image;
     float x, y, width, height;
-  } cases[] = {
-      {"A.TJB", true, "A.BMP", 1, 2.5F, 3, 4},
-      {"/home/jobs/B.TJB", true, "", 0, 0, 2, 2},
-      {"SUB\\c.tjb", true, "C.BMP", 0.125F, -1, 1e10F, 4},
-      {"D.TJB", true, "", 0, 0, 0, 0},
-      {"E.TJB", false, "kept", 7, 7, 7, 7},
-  };
+  } cases[] = {{"A.TJB", true, "A.BMP", 1, 2.5F, 3, 4},
+               {"/home/jobs/B.TJB", true, "", 0, 0, 2, 2},
+               {"SUB\\c.tjb", true, "C.BMP", 0.125F, -1, 1e10F, 4},
+               {"D.TJB", true, "", 0, 0, 0, 0},
+               {"E.TJB", false, "kept", 7, 7, 7, 7}};
   for (const auto& c : cases) {
     LockRecord r{c.job, "kept", 7, 7, 7, 7};
     EXPECT_EQ(FindLockRecord(files_, r), c.found) << c.job;
@@ -46,13 +44,11 @@ TEST_F(LockImages, WritesTheRecordAndDropsTheLaterOnes) {
     const char* job;
     bool remove;
     std::string list;
-  } cases[] = {
-      {"b.tjb", false, "A.TJB,A.BMP,1,2.5,3,4\r\nb.tjb,NEW.BMP,0.5,-1,2,1E+10\r\n"},
-      {"B.TJB", true, "A.TJB,A.BMP,1,2.5,3,4\r\n"},
-      {"A.TJB", true, ""},
-      {"E.TJB", false, kLines + "E.TJB,NEW.BMP,0.5,-1,2,1E+10\r\n"},
-      {"E.TJB", true, kLines},
-  };
+  } cases[] = {{"b.tjb", false, "A.TJB,A.BMP,1,2.5,3,4\r\nb.tjb,NEW.BMP,0.5,-1,2,1E+10\r\n"},
+               {"B.TJB", true, "A.TJB,A.BMP,1,2.5,3,4\r\n"},
+               {"A.TJB", true, ""},
+               {"E.TJB", false, kLines + "E.TJB,NEW.BMP,0.5,-1,2,1E+10\r\n"},
+               {"E.TJB", true, kLines}};
   for (const auto& c : cases) {
     fileSystem_.Put(kList, kLines);
     WriteLockRecord(files_, {c.job, "NEW.BMP", 0.5F, -1, 2, 1e10F}, c.remove);

@@ -56,8 +56,7 @@ TEST_F(RasterCache, AFailedBakeLeavesNoBitmapAndIsTriedAgain) {
       {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(0); }},
       {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(2); }},
       {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", kBitmap, 1); }},
-      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", "BMgarbage"); }},
-  };
+      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", "BMgarbage"); }}};
   std::size_t runs = 0;
   for (const auto& c : cases) {
     c.expect(station_);
@@ -94,13 +93,11 @@ TEST(BitmapSize, ReadsBothHeaderForms) {
   const struct {
     std::string bytes;
     std::int32_t width, height;
-  } cases[] = {
-      {"BM............\x28\0\0\0\3\1\0\0\xFE\xFF\xFF\xFF"s, 259, 2},  // rows from top to bottom
-      {"BM............\x0C\0\0\0\xFF\xFF\2\0\1\0\1\0"s, 65535, 2},    // 16-bit sizes
-      {"BM............\x28\0\0\0\3\0\0\0\0\0\0\x80"s, 0, 0},
-      {"BM............\x28\0\0\0\xFF\xFF\xFF\xFF\2\0\0\0"s, 0, 0},
-      {kBitmap.substr(0, 25), 0, 0},
-  };
+  } cases[] = {{"BM............\x28\0\0\0\3\1\0\0\xFE\xFF\xFF\xFF"s, 259, 2},  // rows from top to bottom
+               {"BM............\x0C\0\0\0\xFF\xFF\2\0\1\0\1\0"s, 65535, 2},    // 16-bit sizes
+               {"BM............\x28\0\0\0\3\0\0\0\0\0\0\x80"s, 0, 0},
+               {"BM............\x28\0\0\0\xFF\xFF\xFF\xFF\2\0\0\0"s, 0, 0},
+               {kBitmap.substr(0, 25), 0, 0}};
   for (const auto& c : cases) {
     const PixelSize size = BitmapSize(c.bytes).value_or(PixelSize{});
     EXPECT_EQ(size.width, c.width) << ::testing::PrintToString(c.bytes);

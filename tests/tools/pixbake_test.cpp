@@ -58,19 +58,17 @@ TEST(Pixbake, AFailureExplainsItselfAndLeavesNothing) {
     const char* arguments;
     int exitCode;
     const char* message;
-  } cases[] = {
-      {"NONE.BMP NEW.RAS", 1, "NONE.BMP: File not found\n"},
-      {"EMPTY NEW.RAS", 1, "EMPTY: The bitmap ends within its header\n"},
-      {"NOISE NEW.RAS", 1, "NOISE: The file is not a bitmap\n"},
-      {"GOOD.RAS NEW.RAS", 1, "GOOD.RAS: The file is not a bitmap\n"},
-      {"CUT.BMP NEW.RAS", 1, "CUT.BMP: The bitmap ends within its pixels\n"},
-      {"CUT.BMP OLD.RAS", 1, "CUT.BMP: The bitmap ends within its pixels\n"},
-      {"/R EMPTY NEW.BMP", 1, "EMPTY: The file is not a raster\n"},
-      {"/r GOOD.BMP NEW.BMP", 1, "GOOD.BMP: The file is not a raster\n"},
-      {"/R CUT.RAS NEW.BMP", 1, "CUT.RAS: The raster is damaged or cut short\n"},
-      {"SäGE.BMP NEW.RAS", 1, "SäGE.BMP: File not found\n"},
-      {"GOOD.BMP '.\\NONE\\NEW.RAS'", 1, ".\\NONE\\NEW.RAS: Path not found\n"},
-  };
+  } cases[] = {{"NONE.BMP NEW.RAS", 1, "NONE.BMP: File not found\n"},
+               {"EMPTY NEW.RAS", 1, "EMPTY: The bitmap ends within its header\n"},
+               {"NOISE NEW.RAS", 1, "NOISE: The file is not a bitmap\n"},
+               {"GOOD.RAS NEW.RAS", 1, "GOOD.RAS: The file is not a bitmap\n"},
+               {"CUT.BMP NEW.RAS", 1, "CUT.BMP: The bitmap ends within its pixels\n"},
+               {"CUT.BMP OLD.RAS", 1, "CUT.BMP: The bitmap ends within its pixels\n"},
+               {"/R EMPTY NEW.BMP", 1, "EMPTY: The file is not a raster\n"},
+               {"/r GOOD.BMP NEW.BMP", 1, "GOOD.BMP: The file is not a raster\n"},
+               {"/R CUT.RAS NEW.BMP", 1, "CUT.RAS: The raster is damaged or cut short\n"},
+               {"SäGE.BMP NEW.RAS", 1, "SäGE.BMP: File not found\n"},
+               {"GOOD.BMP '.\\NONE\\NEW.RAS'", 1, ".\\NONE\\NEW.RAS: Path not found\n"}};
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments);
     EXPECT_EQ(folder.Run(std::string("PIXBAKE.EXE ") + each.arguments), each.exitCode);

@@ -71,13 +71,11 @@ TEST(RasterFormats, BitmapsOfEveryKind) {
   const struct {
     std::string bytes;
     GreyImage image;
-  } cases[] = {
-      {bitmap(54, 3, 1, 24, 0, blueGreenRed + "fil"), {3, 1, "\x1D\x96\x4C"}},
-      {bitmap(56, 1, 2, 32, 0, "..\x10\x10\x10.\x20\x20\x20."s), {1, 2, "\x20\x10"}},
-      {bitmap(54, 3, static_cast<std::uint32_t>(-1), 32, 0, blueGreenRed4), {3, 1, "\x1D\x96\x4C"}},
-      {bitmap(66, 2, static_cast<std::uint32_t>(-2), 8, 3, colours + "\0\1..\2\0.."s),
-       {2, 2, "\x1D\x96\x4C\x1D"}},
-  };
+  } cases[] = {{bitmap(54, 3, 1, 24, 0, blueGreenRed + "fil"), {3, 1, "\x1D\x96\x4C"}},
+               {bitmap(56, 1, 2, 32, 0, "..\x10\x10\x10.\x20\x20\x20."s), {1, 2, "\x20\x10"}},
+               {bitmap(54, 3, static_cast<std::uint32_t>(-1), 32, 0, blueGreenRed4), {3, 1, "\x1D\x96\x4C"}},
+               {bitmap(66, 2, static_cast<std::uint32_t>(-2), 8, 3, colours + "\0\1..\2\0.."s),
+                {2, 2, "\x1D\x96\x4C\x1D"}}};
   for (const auto& each : cases) EXPECT_EQ(pixbake::ReadBitmap(each.bytes), each.image);
 
   const std::string good = pixbake::WriteBitmap({2, 1, "\x10\x20"});
@@ -98,8 +96,7 @@ TEST(RasterFormats, BitmapsOfEveryKind) {
       {Patched(good, 22, 32767), "The bitmap ends within its pixels"},
       {Patched(good, 28, 4), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
       {Patched(good, 30, 1), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
-      {Patched(good, 46, 257), "The bitmap's colour table is too long"},
-  };
+      {Patched(good, 46, 257), "The bitmap's colour table is too long"}};
   for (const auto& each : bad) EXPECT_EQ(Failure(pixbake::ReadBitmap, each.bytes), each.message);
 }
 
@@ -108,17 +105,15 @@ TEST(RasterFormats, RastersThatLie) {
   const struct {
     std::string bytes;
     const char* message;
-  } cases[] = {
-      {good + ".", "The raster is damaged or cut short"},
-      {Patched(good, 4, 2), "The raster is of a version that is not known"},
-      {"MRAS", "The raster ends within its header"},
-      {WithChecksum(Patched(good, 8, 0)), "The picture has no pixels"},
-      {WithChecksum(Patched(good, 8, 0xFFFFFFFF)), "The picture is too large (4294967295 x 2)"},
-      {WithChecksum(Patched(Patched(good, 8, 8192), 12, 8192)), "The raster ends within its pixels"},
-      {WithChecksum(Patched(good, 8, 4)), "A row of the raster is too long"},
-      {WithChecksum(Patched(good, 12, 1)), "The raster has more data than pixels"},
-      {WithChecksum(Patched(good, 16, 0x62046183)), "The raster ends within its pixels"},
-  };
+  } cases[] = {{good + ".", "The raster is damaged or cut short"},
+               {Patched(good, 4, 2), "The raster is of a version that is not known"},
+               {"MRAS", "The raster ends within its header"},
+               {WithChecksum(Patched(good, 8, 0)), "The picture has no pixels"},
+               {WithChecksum(Patched(good, 8, 0xFFFFFFFF)), "The picture is too large (4294967295 x 2)"},
+               {WithChecksum(Patched(Patched(good, 8, 8192), 12, 8192)), "The raster ends within its pixels"},
+               {WithChecksum(Patched(good, 8, 4)), "A row of the raster is too long"},
+               {WithChecksum(Patched(good, 12, 1)), "The raster has more data than pixels"},
+               {WithChecksum(Patched(good, 16, 0x62046183)), "The raster ends within its pixels"}};
   for (const auto& each : cases) EXPECT_EQ(Failure(pixbake::ReadRas, each.bytes), each.message);
 }
 

@@ -64,8 +64,7 @@ constexpr Size kSizes[] = {
     {"36x36", 172},    {"40x40", 228},    {"44x44", 288},    {"48x48", 348},    {"52x52", 408},
     {"64x64", 560},    {"72x72", 736},    {"80x80", 912},    {"88x88", 1152},   {"96x96", 1392},
     {"104x104", 1632}, {"120x120", 2100}, {"132x132", 2608}, {"144x144", 3116}, {"8x18", 10},
-    {"8x32", 20},      {"12x26", 32},     {"12x36", 44},     {"16x36", 64},     {"16x48", 98},
-};
+    {"8x32", 20},      {"12x26", 32},     {"12x36", 44},     {"16x36", 64},     {"16x48", 98}};
 
 TEST(Sqrgen, EverySizeHoldsItsCapacityAndReadsBack) {
   ToolFolder folder;
@@ -99,22 +98,20 @@ TEST(Sqrgen, AutomaticTakesTheSmallestSquare) {
 TEST(Sqrgen, EveryByteIsContent) {
   std::string all;
   for (int i = 0; i < 256; ++i) all += static_cast<char>(i);
-  const std::string cases[] = {
-      all,
-      std::string("\0", 1),
-      std::string("\0\0end\0", 6),
-      "\xFF",
-      "line\r\nline\n",
-      "\\x1d ~1 ^FNC1 %%",
-      "[)>\x1e"
-      "12\x1d"
-      "ABC\x1e\x04",
-      "[)>\x1e"
-      "06\x1d"
-      "ABC\x1e\x04",
-      "\xEF\xBB\xBFtext",
-      "\xC3\x84 \xC4",
-  };
+  const std::string cases[] = {all,
+                               std::string("\0", 1),
+                               std::string("\0\0end\0", 6),
+                               "\xFF",
+                               "line\r\nline\n",
+                               "\\x1d ~1 ^FNC1 %%",
+                               "[)>\x1e"
+                               "12\x1d"
+                               "ABC\x1e\x04",
+                               "[)>\x1e"
+                               "06\x1d"
+                               "ABC\x1e\x04",
+                               "\xEF\xBB\xBFtext",
+                               "\xC3\x84 \xC4"};
   ToolFolder folder;
   for (const std::string& content : cases) {
     SCOPED_TRACE(testing::PrintToString(content));
@@ -138,8 +135,7 @@ TEST(Sqrgen, FailuresExplainThemselvesInTheOutput) {
       {"Automatic", std::string(1557, '\x80'),
        "The text (1557 characters) does not fit a symbol of 144x144 modules.\r\n"},
       {"", std::string(100000, 'A'),
-       "The text (100000 characters) does not fit a symbol of 144x144 modules.\r\n"},
-  };
+       "The text (100000 characters) does not fit a symbol of 144x144 modules.\r\n"}};
   ToolFolder folder;
   for (const Case& each : cases) {
     SCOPED_TRACE(each.message);
