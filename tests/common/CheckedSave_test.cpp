@@ -7,9 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "common/RunTimeError.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/Failure.h"
 #include "support/FakeFileSystem.h"
 #include "support/TempFolder.h"
 
@@ -17,131 +17,126 @@ namespace morvane::common {
 namespace {
 
 using platform::Error;
+using Names = std::vector<std::string>;
 
-std::string FailureOfSave(platform::FileSystem& system, const std::string& target, std::string_view bytes) {
-  try {
-    CheckedSave(system, target, bytes);
-    return "";
-  } catch (const RunTimeError& error) {
-    return error.description();
-  }
+const std::string kTarget = "/base/A.TJB";
+const std::string kBytes = "the new and longer bytes";
+
+std::string Save(platform::FileSystem& system, const std::string& target, std::string_view bytes = kBytes) {
+  return test::Failure([&] { CheckedSave(system, target, bytes); });
 }
 
-std::vector<std::string> Listed(const platform::FileSystem& system, const std::string& directory) {
-  std::vector<std::string> names;
+Names Listed(const platform::FileSystem& system, const std::string& directory) {
+  Names names;
   system.List(directory, names);
   return names;
 }
 
 class CheckedSaveTest : public ::testing::Test {
  protected:
+  CheckedSaveTest() { disk_.Put(kTarget, "old bytes"); }
   void ExpectOldFileAlone() {
-    EXPECT_EQ(disk_.Get("/base/A.TJB"), "old bytes");
-    EXPECT_EQ(Listed(disk_, "/base"), std::vector<std::string>{"A.TJB"});
+    EXPECT_EQ(disk_.Get(kTarget), "old bytes");
+    EXPECT_EQ(Listed(disk_, "/base"), Names{"A.TJB"});
   }
   test::FakeFileSystem disk_;
 };
 
 TEST_F(CheckedSaveTest, ADiskThatFillsAtAnyByteKeepsTheOldFile) {
-  disk_.Put("/base/A.TJB", "old bytes");
-  const std::string bytes = "the new and longer bytes";
-  for (std::size_t room = 0; room < bytes.size(); ++room) {
+  for (std::size_t room = 0; room < kBytes.size(); ++room) {
     disk_.faults.bytesLeft = room;
-    EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", bytes), "Disk full");
+    EXPECT_EQ(Save(disk_, kTarget), "Disk full");
     ExpectOldFileAlone();
   }
-  disk_.faults.bytesLeft = bytes.size();
-  EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", bytes), "");
-  EXPECT_EQ(disk_.Get("/base/A.TJB"), bytes);
+  disk_.faults.bytesLeft = kBytes.size();
+  EXPECT_EQ(Save(disk_, kTarget), "");
+  EXPECT_EQ(disk_.Get(kTarget), kBytes);
 }
 
 TEST_F(CheckedSaveTest, AFailureOfAnyStepKeepsTheOldFile) {
   using Faults = test::FakeFileSystem::Faults;
   for (Error Faults::*step : {&Faults::create, &Faults::sync, &Faults::close, &Faults::rename}) {
-    disk_.Put("/base/A.TJB", "old bytes");
     disk_.faults.*step = Error::DeviceError;
-    EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", "new"), "Device I/O error");
+    EXPECT_EQ(Save(disk_, kTarget), "Device I/O error");
     disk_.faults = {};
     ExpectOldFileAlone();
   }
   disk_.faults.syncDirectory = Error::DeviceError;
-  EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", "new"), "Device I/O error");
-  EXPECT_EQ(disk_.Get("/base/A.TJB"), "new");
+  EXPECT_EQ(Save(disk_, kTarget), "Device I/O error");
+  EXPECT_EQ(disk_.Get(kTarget), kBytes);
 }
 
 TEST_F(CheckedSaveTest, RefusesTargetsThatMayNotBeReplaced) {
-  disk_.Put("/base/A.TJB", "old bytes");
-  disk_.SetWritable("/base/A.TJB", false);
-  EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", "new"), "Permission denied");
-  EXPECT_EQ(FailureOfSave(disk_, "/base", "new"), "Path/File access error");
-  EXPECT_EQ(FailureOfSave(disk_, "/none/A.TJB", "new"), "Path not found");
+  disk_.SetWritable(kTarget, false);
+  EXPECT_EQ(Save(disk_, kTarget), "Permission denied");
+  EXPECT_EQ(Save(disk_, "/base"), "Path/File access error");
+  EXPECT_EQ(Save(disk_, "/none/A.TJB"), "Path not found");
   ExpectOldFileAlone();
 }
 
 TEST_F(CheckedSaveTest, LeavesAnotherSaversFileAloneUntilLeftoversAreCleared) {
   disk_.Put("/base/.morvane-save-0", "of another");
   disk_.Put("/base/.morvane", "not ours");
-  EXPECT_EQ(FailureOfSave(disk_, "/base/A.TJB", "new"), "");
+  EXPECT_EQ(Save(disk_, kTarget), "");
   EXPECT_EQ(disk_.Get("/base/.morvane-save-0"), "of another");
   ClearSaveLeftovers(disk_, "/base");
-  EXPECT_EQ(Listed(disk_, "/base"), (std::vector<std::string>{".morvane", "A.TJB"}));
+  EXPECT_EQ(Listed(disk_, "/base"), (Names{".morvane", "A.TJB"}));
 }
 
-TEST(CheckedSaveOnDisk, KeepsPermissionsAndFollowsALink) {
-  const test::TempFolder folder;
-  platform::PosixFileSystem system;
-  folder.Write("real", "old");
-  ASSERT_EQ(chmod((folder / "real").c_str(), 0640), 0);
-  ASSERT_EQ(symlink("real", (folder / "link").c_str()), 0);
-  EXPECT_EQ(FailureOfSave(system, folder / "link", "new"), "");
-  EXPECT_EQ(folder.Read("real"), "new");
+class CheckedSaveOnDisk : public ::testing::Test {
+ protected:
+  void ExpectOneFile() { EXPECT_EQ(Listed(system_, folder_.Path()), Names{"A.TJB"}); }
+  const test::TempFolder folder_;
+  const std::string target_ = folder_ / "A.TJB";
+  platform::PosixFileSystem system_;
+};
+
+TEST_F(CheckedSaveOnDisk, KeepsPermissionsAndFollowsALink) {
+  folder_.Write("A.TJB", "old");
+  ASSERT_EQ(chmod(target_.c_str(), 0640), 0);
+  ASSERT_EQ(symlink("A.TJB", (folder_ / "link").c_str()), 0);
+  EXPECT_EQ(Save(system_, folder_ / "link"), "");
+  EXPECT_EQ(folder_.Read("A.TJB"), kBytes);
   struct stat status {};
-  ASSERT_EQ(lstat((folder / "link").c_str(), &status), 0);
-  EXPECT_TRUE(S_ISLNK(status.st_mode));
-  ASSERT_EQ(stat((folder / "real").c_str(), &status), 0);
+  ASSERT_EQ(stat(target_.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
 }
 
-TEST(CheckedSaveOnDisk, ALimitAtAnyByteKeepsTheOldFile) {
-  const test::TempFolder folder;
-  platform::PosixFileSystem system;
-  folder.Write("A.TJB", "old bytes");
+TEST_F(CheckedSaveOnDisk, ALimitAtAnyByteKeepsTheOldFile) {
+  folder_.Write("A.TJB", "old bytes");
   rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
   const auto handler = signal(SIGXFSZ, SIG_IGN);
-  for (rlim_t room = 0; room < 24; ++room) {
+  for (rlim_t room = 0; room < kBytes.size(); ++room) {
     const rlimit limit{room, before.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const std::string failure = FailureOfSave(system, folder / "A.TJB", "the new and longer bytes");
+    const std::string failure = Save(system_, target_);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     EXPECT_EQ(failure, "Disk full");
-    EXPECT_EQ(folder.Read("A.TJB"), "old bytes");
+    EXPECT_EQ(folder_.Read("A.TJB"), "old bytes");
   }
   signal(SIGXFSZ, handler);
-  EXPECT_EQ(Listed(system, folder.Path()), std::vector<std::string>{"A.TJB"});
+  ExpectOneFile();
 }
 
-TEST(CheckedSaveOnDisk, AKillInMidSaveLeavesAWholeFile) {
-  const test::TempFolder folder;
-  platform::PosixFileSystem system;
+TEST_F(CheckedSaveOnDisk, AKillInMidSaveLeavesAWholeFile) {
   platform::PosixClock clock;
   const std::string texts[] = {std::string(300'000, 'a'), std::string(200'000, 'b')};
-  CheckedSave(system, folder / "A.TJB", texts[0]);
+  CheckedSave(system_, target_, texts[0]);
   for (int round = 0; round < 25; ++round) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-      for (int i = 0;; ++i) CheckedSave(system, folder / "A.TJB", texts[i % 2]);
+      for (int i = 0;; ++i) CheckedSave(system_, target_, texts[i % 2]);
     }
     clock.Sleep(1 + round);
     kill(child, SIGKILL);
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
-    const std::string bytes = folder.Read("A.TJB");
-    EXPECT_TRUE(bytes == texts[0] || bytes == texts[1])
-        << "in round " << round << ", " << bytes.size() << " bytes";
+    const std::string bytes = folder_.Read("A.TJB");
+    EXPECT_TRUE(bytes == texts[0] || bytes == texts[1]) << round << ": " << bytes.size() << " bytes";
   }
-  ClearSaveLeftovers(system, folder.Path());
-  EXPECT_EQ(Listed(system, folder.Path()), std::vector<std::string>{"A.TJB"});
+  ClearSaveLeftovers(system_, folder_.Path());
+  ExpectOneFile();
 }
 
 }  // namespace

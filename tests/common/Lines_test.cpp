@@ -10,36 +10,17 @@ namespace morvane::common {
 namespace {
 
 TEST(Lines, EndAtEveryKindOfMark) {
-  struct Case {
-    std::string bytes;
-    std::vector<std::string> lines;
-  };
-  const Case cases[] = {{"", {}},
-                        {"A", {"A"}},
-                        {"A\r\n", {"A"}},
-                        {"A\r\nB\nC\rD", {"A", "B", "C", "D"}},
-                        {"\r\n\r\nA", {"", "", "A"}},
-                        {"A\r\r\nB", {"A", "", "B"}},
-                        {"A\n\rB\r", {"A", "", "B"}},
-                        {std::string("A\0B\n", 4), {std::string("A\0B", 3)}}};
-  for (const Case& c : cases) {
-    Lines lines(c.bytes);
-    std::vector<std::string> found;
+  using Texts = std::vector<std::string>;
+  using Case = std::pair<std::string, Texts>;
+  for (const auto& [bytes, expected] :
+       {Case{"", {}}, Case{"A", {"A"}}, Case{"A\r\nB\nC\rD\r\n", {"A", "B", "C", "D"}},
+        Case{"\r\n\r\nA", {"", "", "A"}}, Case{"A\r\r\nB", {"A", "", "B"}}, Case{"A\n\rB\r", {"A", "", "B"}},
+        Case{{"A\0B\n", 4}, {{"A\0B", 3}}}}) {
+    Lines lines(bytes);
+    Texts found;
     for (std::string_view line; lines.Next(line);) found.emplace_back(line);
-    EXPECT_EQ(found, c.lines) << c.bytes;
-    EXPECT_TRUE(lines.AtEnd());
-  }
-}
-
-TEST(Lines, TakeBeyondTheEndIsAnError) {
-  Lines lines("A");
-  EXPECT_EQ(lines.Take(), "A");
-  try {
-    lines.Take();
-    FAIL();
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), kInputPastEndOfFile);
-    EXPECT_EQ(error.description(), "Input past end of file");
+    EXPECT_EQ(found, expected) << bytes;
+    EXPECT_THROW(lines.Take(), RunTimeError);
   }
 }
 

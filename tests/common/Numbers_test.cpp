@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <charconv>
+#include <initializer_list>
 #include <limits>
 #include <random>
 
@@ -15,68 +16,32 @@ constexpr double kMost = std::numeric_limits<double>::max();
 
 TEST(Numbers, PrefixParseTakesTheLongestNumber) {
   using Case = std::pair<std::string, double>;
-  for (const auto& [text, value] : {Case{"", 0},
-                                    Case{"abc", 0},
-                                    Case{"12", 12},
-                                    Case{"  12.5abc", 12.5},
-                                    Case{"-3", -3},
-                                    Case{"+4", 4},
-                                    Case{"+-4", 0},
-                                    Case{"--4", 0},
-                                    Case{".5", .5},
-                                    Case{"-.5", -.5},
-                                    Case{".", 0},
-                                    Case{"-", 0},
-                                    Case{"5.", 5},
-                                    Case{"1.2.3", 1.2},
-                                    Case{"1,5", 1},
-                                    Case{"1e3", 1000},
-                                    Case{"1E-2", .01},
-                                    Case{"1e", 1},
-                                    Case{"1e+", 1},
-                                    Case{"2e3x", 2000},
-                                    Case{"e5", 0},
-                                    Case{"1 2", 1},
-                                    Case{"&H1F", 31},
-                                    Case{"&hff", 255},
-                                    Case{"&HG", 0},
-                                    Case{"&H", 0},
-                                    Case{"&", 0},
-                                    Case{" &H10", 16},
-                                    Case{"&H4G", 4},
-                                    Case{"nan", 0},
-                                    Case{"inf", 0},
-                                    Case{"-inf", 0},
-                                    Case{"infinity", 0},
-                                    Case{"0x10", 0},
-                                    Case{"1e-400", 0},
-                                    Case{"1e400", kMost},
-                                    Case{"-1e999999999999999999999", -kMost},
-                                    Case{"1e-999999999999999999999", 0},
-                                    Case{"0.000e400", 0},
-                                    Case{"0." + std::string(500, '0') + "1", 0},
-                                    Case{"1" + std::string(500, '0'), kMost}}) {
-    EXPECT_EQ(ParseNumber(text), value) << text;
-  }
+  const auto expect = [](std::initializer_list<Case> cases) {
+    for (const auto& [text, value] : cases) EXPECT_EQ(ParseNumber(text), value) << text;
+  };
+  expect({Case{"", 0}, Case{"abc", 0}, Case{"12", 12}, Case{"  12.5abc", 12.5}, Case{"-3", -3}, Case{"+4", 4},
+          Case{"+-4", 0}, Case{"--4", 0}, Case{".5", .5}, Case{"-.5", -.5}, Case{".", 0}, Case{"-", 0},
+          Case{"5.", 5}, Case{"1.2.3", 1.2}, Case{"1,5", 1}, Case{"1 2", 1}});
+  expect({Case{"1e3", 1000}, Case{"1E-2", .01}, Case{"1e", 1}, Case{"1e+", 1}, Case{"2e3x", 2000},
+          Case{"e5", 0}, Case{"1e-400", 0}, Case{"1e400", kMost}, Case{"-1e999999999999999999999", -kMost},
+          Case{"1e-999999999999999999999", 0}, Case{"0.000e400", 0},
+          Case{"0." + std::string(500, '0') + "1", 0}, Case{"1" + std::string(500, '0'), kMost}});
+  expect({Case{"&H1F", 31}, Case{"&hff", 255}, Case{"&HG", 0}, Case{"&H", 0}, Case{"&", 0}, Case{" &H10", 16},
+          Case{"&H4G", 4}, Case{"0x10", 0}, Case{"nan", 0}, Case{"inf", 0}, Case{"-inf", 0},
+          Case{"infinity", 0}});
 }
 
 TEST(Numbers, FieldsHoldTheirLimitsAndRoundTiesToEven) {
-  const struct {
+  struct Case {
     const char* text;
     int i16, i32;
-  } cases[] = {{"0.5", 0, 0},
-               {"1.5", 2, 2},
-               {"2.5", 2, 2},
-               {"-0.5", 0, 0},
-               {"-1.5", -2, -2},
-               {"32767.4", 32767, 32767},
-               {"32768", 32767, 32768},
-               {"-99999", -32768, -99999},
-               {"1e308", 32767, 2147483647},
-               {"-1e308", -32768, std::numeric_limits<int>::min()}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(ParseInt16(c.text), c.i16) << c.text;
-    EXPECT_EQ(ParseInt32(c.text), c.i32) << c.text;
+  };
+  for (const auto& [text, i16, i32] :
+       {Case{"0.5", 0, 0}, Case{"1.5", 2, 2}, Case{"2.5", 2, 2}, Case{"-0.5", 0, 0}, Case{"-1.5", -2, -2},
+        Case{"32767.4", 32767, 32767}, Case{"32768", 32767, 32768}, Case{"-99999", -32768, -99999},
+        Case{"1e308", 32767, 2147483647}, Case{"-1e308", -32768, std::numeric_limits<int>::min()}}) {
+    EXPECT_EQ(ParseInt16(text), i16) << text;
+    EXPECT_EQ(ParseInt32(text), i32) << text;
   }
   EXPECT_EQ(ParseSingle("1e308"), std::numeric_limits<float>::max());
   EXPECT_EQ(ParseSingle("-1e308"), std::numeric_limits<float>::lowest());
@@ -93,40 +58,28 @@ TEST(Numbers, PlainNumberHasSevenSignificantDigits) {
 }
 
 TEST(Numbers, Pictures) {
-  struct Case {
-    const char* picture;
-    double value;
-    const char* text;
+  using Case = std::pair<double, std::string>;
+  const auto expect = [](const char* picture, std::initializer_list<Case> cases) {
+    for (const auto& [value, text] : cases) EXPECT_EQ(FormatPicture(value, picture), text) << picture;
   };
-  for (const auto& [picture, value, text] : {Case{"0.000", 1.25, "1.250"},
-                                             Case{"0.000", -0.5, "-0.500"},
-                                             Case{"0.000", 0.0625, "0.063"},
-                                             Case{"0.000", -0.0625, "-0.063"},
-                                             Case{"0.000", -0.0001, "0.000"},
-                                             Case{"0.000", 0.9996, "1.000"},
-                                             Case{"0.000", 99.9999, "100.000"},
-                                             Case{"0.00##", 1.5, "1.50"},
-                                             Case{"0.00##", 1.2345, "1.2345"},
-                                             Case{"0.00##", 1.23456, "1.2346"},
-                                             Case{"0.00##", 0, "0.00"},
-                                             Case{"#.###", 0.5, ".5"},
-                                             Case{"#.###", 5.25, "5.25"},
-                                             Case{"#.###", -0.5, "-.5"},
-                                             Case{".##", 0.25, ".25"},
-                                             Case{".##", 12.5, "12.5"},
-                                             Case{"00.0", 3.14, "03.1"},
-                                             Case{"00.0", 123, "123.0"},
-                                             Case{"0", 2.5, "3"},
-                                             Case{"0", -2.5, "-3"},
-                                             Case{"###", 7, "7"},
-                                             Case{"###", 0, ""},
-                                             Case{"", 1.5, "1.5"},
-                                             Case{"0.0 mm", 2.5, "2.5 mm"},
-                                             Case{"0.00", 1.005, "1.00"},
-                                             Case{"abc", 1, "abc"},
-                                             Case{"#,##0.00", 1234.5, "1234.50"}}) {
-    EXPECT_EQ(FormatPicture(value, picture), text) << value << " " << picture;
-  }
+  expect("0.000", {{1.25, "1.250"},
+                   {-0.5, "-0.500"},
+                   {0.0625, "0.063"},
+                   {-0.0625, "-0.063"},
+                   {-0.0001, "0.000"},
+                   {0.9996, "1.000"},
+                   {99.9999, "100.000"}});
+  expect("0.00##", {{1.5, "1.50"}, {1.2345, "1.2345"}, {1.23456, "1.2346"}, {0, "0.00"}});
+  expect("#.###", {{0.5, ".5"}, {5.25, "5.25"}, {-0.5, "-.5"}});
+  expect(".##", {{0.25, ".25"}, {12.5, "12.5"}});
+  expect("00.0", {{3.14, "03.1"}, {123, "123.0"}});
+  expect("0", {{2.5, "3"}, {-2.5, "-3"}});
+  expect("###", {{7, "7"}, {0, ""}});
+  expect("0.00", {{1.005, "1.00"}});
+  expect("0.0 mm", {{2.5, "2.5 mm"}});
+  expect("#,##0.00", {{1234.5, "1234.50"}});
+  expect("", {{1.5, "1.5"}});
+  expect("abc", {{1, "abc"}});
   EXPECT_EQ(FormatPicture(1e300, "0.000").size(), 305U);
   EXPECT_EQ(FormatPicture(0.5, "0." + std::string(5000, '0')).size(), 62U);
 }

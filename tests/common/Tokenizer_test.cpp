@@ -5,70 +5,57 @@
 namespace morvane::common {
 namespace {
 
-// Tokens, each with "!" behind it when `atEnd` was True, until the scan is used up.
-std::vector<std::string> Scan(std::string_view text, std::string_view delimiter, bool any) {
-  Tokenizer tokenizer;
-  std::vector<std::string> tokens;
-  for (bool used = false; !used && tokens.size() < 20;) {
+// The tokens of a scan until it is used up, each with "!" behind it when `atEnd` was True, joined by blanks.
+template <typename Next>
+std::string Scan(const Next& next) {
+  std::string tokens;
+  for (int count = 0; count < 20; ++count) {
     bool atEnd = false;
-    const std::string token = any ? tokenizer.GetTokenAny(tokens.empty() ? text : "", delimiter, atEnd)
-                                  : tokenizer.GetToken(tokens.empty() ? text : "", delimiter, atEnd);
-    used = atEnd && token.empty();
-    tokens.push_back(token + (atEnd ? "!" : ""));
+    const std::string token(next(count == 0, atEnd));
+    tokens += token + (atEnd ? "! " : " ");
+    if (atEnd && token.empty()) break;
   }
   return tokens;
 }
 
 TEST(Tokenizer, Steps) {
-  struct Case {
-    std::string text;
-    const char* delimiter;
-    bool any;
-    std::vector<std::string> tokens;
-  };
-  const Case cases[] = {{"", ",", false, {"!"}},
-                        {"A", ",", false, {"A!", "!"}},
-                        {"A,B", ",", false, {"A", "B!", "!"}},
-                        {"A,,B", ",", false, {"A", "", "B!", "!"}},
-                        {"A,", ",", false, {"A", "", "!"}},
-                        {",", ",", false, {"", "", "!"}},
-                        {"A@@B@C", "@@", false, {"A", "B@C!", "!"}},
-                        {"A,B", "", false, {"A,B", "!"}},
-                        {"A;B,C", ",;", true, {"A", "B", "C!", "!"}},
-                        {"A,B;", ",;", true, {"A", "B", "", "!"}},
-                        {"A,B", "", true, {"A,B", "!"}}};
-  for (const Case& c : cases) {
-    EXPECT_EQ(Scan(c.text, c.delimiter, c.any), c.tokens) << c.text;
-    if (c.any) continue;
-    TokenScan scan(c.text);
-    for (const std::string& expected : c.tokens) {
-      bool atEnd = false;
-      const std::string token(scan.Next(c.delimiter, atEnd));
-      EXPECT_EQ(token + (atEnd ? "!" : ""), expected) << c.text;
-    }
+  using Case = std::tuple<const char*, const char*, const char*>;
+  for (const auto& [text, delimiter, tokens] :
+       {Case{"", ",", "! "}, Case{"A", ",", "A! ! "}, Case{"A,B", ",", "A B! ! "},
+        Case{"A,,B", ",", "A  B! ! "}, Case{"A,", ",", "A  ! "}, Case{",", ",", "  ! "},
+        Case{"A@@B@C", "@@", "A B@C! ! "}, Case{"A,B", "", "A,B! ! "}}) {
+    Tokenizer tokenizer;
+    TokenScan scan(text);
+    EXPECT_EQ(Scan([&, t = text, d = delimiter](bool first, bool& atEnd) {
+                return tokenizer.GetToken(first ? t : "", d, atEnd);
+              }),
+              tokens);
+    EXPECT_EQ(Scan([&, d = delimiter](bool, bool& atEnd) { return scan.Next(d, atEnd); }), tokens);
   }
+  Tokenizer any;
+  EXPECT_EQ(
+      Scan([&](bool first, bool& atEnd) { return any.GetTokenAny(first ? "A,B;C," : "", ",;", atEnd); }),
+      "A B C  ! ");
 }
 
 TEST(Tokenizer, ScansNestWithoutDisturbingEachOther) {
   Tokenizer tokenizer;
   bool atEnd = false;
-  EXPECT_EQ(tokenizer.GetToken("1;2", ";", atEnd), "1");
-  EXPECT_EQ(tokenizer.GetToken2("a,b", ",", atEnd), "a");
-  EXPECT_EQ(tokenizer.GetToken3("x-y", "-", atEnd), "x");
-  EXPECT_EQ(tokenizer.GetTokenAny("p q", " ", atEnd), "p");
-  EXPECT_EQ(tokenizer.GetToken("", ";", atEnd), "2");
-  EXPECT_EQ(tokenizer.GetToken2("", ",", atEnd), "b");
-  EXPECT_EQ(tokenizer.GetToken3("", "-", atEnd), "y");
-  EXPECT_EQ(tokenizer.GetTokenAny("", " ", atEnd), "q");
+  std::string tokens;
+  for (const bool first : {true, false}) {
+    tokens += tokenizer.GetToken(first ? "1;2" : "", ";", atEnd);
+    tokens += tokenizer.GetToken2(first ? "a,b" : "", ",", atEnd);
+    tokens += tokenizer.GetToken3(first ? "x-y" : "", "-", atEnd);
+    tokens += tokenizer.GetTokenAny(first ? "p q" : "", " ", atEnd);
+  }
+  EXPECT_EQ(tokens, "1axp2byq");
 }
 
 TEST(Tokenizer, SplitTextStopsAtTheFirstEmptyToken) {
-  using Texts = std::vector<std::string>;
-  EXPECT_EQ(SplitText("A B", " "), (Texts{"A", "B"}));
-  EXPECT_EQ(SplitText("A,,B", ","), (Texts{"A"}));
-  EXPECT_EQ(SplitText("A,", ","), (Texts{"A"}));
-  EXPECT_EQ(SplitText(",A", ","), Texts{});
-  EXPECT_EQ(SplitText("", ","), Texts{});
+  using Case = std::pair<const char*, std::vector<std::string>>;
+  for (const auto& [text, tokens] : {Case{"A,B", {"A", "B"}}, Case{"A,,B", {"A"}}, Case{",A", {}}}) {
+    EXPECT_EQ(SplitText(text, ","), tokens);
+  }
 }
 
 }  // namespace

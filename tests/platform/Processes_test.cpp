@@ -1,7 +1,6 @@
 #include "platform/Processes.h"
 
 #include <gtest/gtest.h>
-
 #include <signal.h>
 
 #include "platform/posix/PosixClock.h"
@@ -12,20 +11,14 @@
 namespace morvane::platform {
 namespace {
 
-// Each way to have programs offers the same three: one that ends with a code, one that runs until it is
+// Each way to have programs offers the same: one that ends with a code or, for -1, runs until it is
 // terminated, and one that is not there.
 struct FakePrograms {
   test::FakeProcesses processes;
-  std::unique_ptr<Process> Ending(int code) {
-    processes.scripts.push_back({true, 2, code, {}});
-    return processes.Start("/base/TOOL.EXE", {}, "/base");
-  }
-  std::unique_ptr<Process> Endless() {
-    processes.scripts.push_back({true, -1, 0, {}});
-    return processes.Start("/base/TOOL.EXE", {}, "/base");
-  }
-  std::unique_ptr<Process> Missing() {
-    processes.scripts.push_back({false, 0, 0, {}});
+  std::unique_ptr<Process> Ending(int code) { return Start({true, code < 0 ? -1 : 2, code, {}}); }
+  std::unique_ptr<Process> Missing() { return Start({false, 0, 0, {}}); }
+  std::unique_ptr<Process> Start(const test::FakeProcesses::Script& script) {
+    processes.scripts.push_back(script);
     return processes.Start("/base/TOOL.EXE", {}, "/base");
   }
 };
@@ -33,9 +26,9 @@ struct FakePrograms {
 struct PosixPrograms {
   PosixProcesses processes;
   std::unique_ptr<Process> Ending(int code) {
-    return processes.Start("/bin/sh", {"-c", "exit " + std::to_string(code)}, "/");
+    const std::string end = "exit " + std::to_string(code);
+    return processes.Start("/bin/sh", {"-c", code < 0 ? "exec sleep 1000" : end}, "/");
   }
-  std::unique_ptr<Process> Endless() { return processes.Start("/bin/sleep", {"1000"}, "/"); }
   std::unique_ptr<Process> Missing() { return processes.Start("/nowhere/TOOL.EXE", {}, "/"); }
 };
 
@@ -56,26 +49,19 @@ class ProcessesContract : public ::testing::Test {
 using AllPrograms = ::testing::Types<FakePrograms, PosixPrograms>;
 TYPED_TEST_SUITE(ProcessesContract, AllPrograms);
 
-TYPED_TEST(ProcessesContract, ReportsTheExitCodeAgainAndAgain) {
+TYPED_TEST(ProcessesContract, EndsByItselfOrIsTerminated) {
   for (int code : {0, 7, 255}) {
     const auto process = this->programs_.Ending(code);
     ASSERT_NE(process, nullptr);
     EXPECT_EQ(this->WaitFor(*process), code);
-    EXPECT_EQ(process->ExitCode(), code);
     process->Terminate();
     EXPECT_EQ(process->ExitCode(), code);
   }
-}
-
-TYPED_TEST(ProcessesContract, RunsUntilItIsTerminated) {
-  const auto process = this->programs_.Endless();
-  ASSERT_NE(process, nullptr);
-  EXPECT_EQ(process->ExitCode(), std::nullopt);
-  process->Terminate();
-  EXPECT_EQ(this->WaitFor(*process), 128 + SIGTERM);
-}
-
-TYPED_TEST(ProcessesContract, TellsThatAProgramCannotStart) {
+  const auto endless = this->programs_.Ending(-1);
+  ASSERT_NE(endless, nullptr);
+  EXPECT_EQ(endless->ExitCode(), std::nullopt);
+  endless->Terminate();
+  EXPECT_EQ(this->WaitFor(*endless), 128 + SIGTERM);
   EXPECT_EQ(this->programs_.Missing(), nullptr);
 }
 
@@ -91,10 +77,6 @@ TEST_F(PosixProcessesTest, ArgumentsArriveAsTheyAre) {
   EXPECT_EQ(WaitFor(*process), 0);
   EXPECT_EQ(folder.Read("out"), "a b|\"q\"|$(id);`id`|\xC3\xA9||");
   EXPECT_EQ(folder.Read("in"), "");  // no input, and no wait for any
-}
-
-TEST_F(PosixProcessesTest, CannotStartWithoutARightProgramFolderOrText) {
-  const test::TempFolder folder;
   folder.Write("plain.txt", "no program");
   EXPECT_EQ(programs_.processes.Start(folder / "plain.txt", {}, "/"), nullptr);
   EXPECT_EQ(programs_.processes.Start("/bin/sh", {}, folder / "none"), nullptr);

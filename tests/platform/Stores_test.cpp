@@ -4,7 +4,6 @@
 
 #include "platform/posix/PosixAutoStartStore.h"
 #include "platform/posix/PosixPerUserStore.h"
-#include "platform/posix/PosixSystemInfo.h"
 #include "support/FakeFileSystem.h"
 
 namespace morvane::platform {
@@ -13,7 +12,6 @@ namespace {
 TEST(PosixPerUserStore, ReadsAndRemoves) {
   test::FakeFileSystem disk("/home/x");
   PosixPerUserStore store(disk, "/home/x/.config");
-  EXPECT_TRUE(store.All("Settings").empty());
   EXPECT_EQ(store.Get("Settings", "Developer", "0"), "0");
   disk.Put("/home/x/.config/Morvane/user.ini", "[Settings]\nDeveloper=1\nA=x;y=z\n[Machines]\nM 1=1.2.3.4\n");
   using Table = std::vector<std::pair<std::string, std::string>>;
@@ -36,17 +34,11 @@ TEST(PosixAutoStartStore, WritesAnEntryThatTheSessionCanRun) {
             "Exec=\"/opt/a b/100%%/\\\\$x\\\\\\\\\\\\\"/MorvaneDS.EXE\"\nTerminal=false\n");
   EXPECT_FALSE(store.Write("../evil", "/bin/true"));
   EXPECT_FALSE(store.Write("Two", "/bin/true\nExec=/bin/false"));
-  EXPECT_TRUE(store.Remove("MorvaneDS"));
-  EXPECT_TRUE(store.Remove("MorvaneDS"));
+  for (int time = 0; time < 2; ++time) EXPECT_TRUE(store.Remove("MorvaneDS"));
   EXPECT_TRUE(store.Names().empty());
   disk.faults.bytesLeft = 5;
   EXPECT_FALSE(store.Write("MorvaneDS", "/bin/true"));
   EXPECT_TRUE(store.Names().empty());
-}
-
-TEST(PosixSystemInfo, KnowsWhereItRuns) {
-  EXPECT_FALSE(PosixSystemInfo().ComputerNameText().empty());
-  EXPECT_FALSE(PosixSystemInfo().UserNameText().empty());
 }
 
 }  // namespace
