@@ -23,7 +23,7 @@ TEST(Tokenizer, Steps) {
   for (const auto& [text, delimiter, tokens] :
        {Case{"", ",", "! "}, Case{"A", ",", "A! ! "}, Case{"A,B", ",", "A B! ! "},
         Case{"A,,B", ",", "A  B! ! "}, Case{"A,", ",", "A  ! "}, Case{",", ",", "  ! "},
-        Case{"A@@B@C", "@@", "A B@C! ! "}, Case{"A,B", "", "A,B! ! "}}) {
+        Case{"A@@B@C", "@@", "A B@C! ! "}, Case{"A,B", "", "A,B ! "}}) {
     Tokenizer tokenizer;
     TokenScan scan(text);
     EXPECT_EQ(Scan([&, t = text, d = delimiter](bool first, bool& atEnd) {
