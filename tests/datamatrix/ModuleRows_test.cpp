@@ -6,29 +6,20 @@ namespace morvane::datamatrix {
 namespace {
 
 TEST(ModuleRows, ReadsOneFieldForEachRow) {
-  const struct {
-    std::string bytes;
-    ModuleRows rows;
-  } cases[] = {{"* *\r\n***\r\n", {"* *", "***"}},
-               {"\"  *\"\r\n\"*  \"\r\n", {"  *", "*  "}},  // quotes keep blanks
-               {"   * *\n***", {"* *", "***"}},             // without them leading blanks are lost
-               {"*  \r\n***", {"*  ", "***"}},              // trailing ones are not
-               {"***,* *\r\n", {"***", "* *"}},             // a comma ends a field
-               {"  \"***\" rest,* *\r\n", {"***", "* *"}},
-               {"\"***\r\n* *", {"***", "* *"}},  // an open quote ends with its line
-               {"***\r\n\r\n\r\n", {"***"}},
-               // No symbol at all.
-               {"", {}},
-               {"\r\n", {}},
-               {"***\r\n**\r\n", {}},
-               {"***\r\n  *\r\n", {}},
-               {"***\r\n\r\n***\r\n", {}},
-               {"***,\r\n", {}},
-               {"*#*\r\n", {}},
-               {"\"* *\"\"\r\n\"*\x1A*\"", {}},
-               {std::string("*\0*", 3), {}},
-               {"SQRGEN: text too long\r\n", {}}};
-  for (const auto& c : cases) EXPECT_EQ(ParseModuleRows(c.bytes), c.rows) << c.bytes;
+  // Quotes keep blanks; without them leading ones are lost, trailing ones are not. A comma ends a field, and
+  // an open quote ends with its line.
+  using Case = std::pair<const char*, ModuleRows>;
+  for (const auto& [bytes, rows] :
+       {Case{"* *\r\n***\r\n", {"* *", "***"}}, Case{"\"  *\"\r\n\"*  \"\r\n", {"  *", "*  "}},
+        Case{"   * *\n***", {"* *", "***"}}, Case{"*  \r\n***", {"*  ", "***"}},
+        Case{"  \"***\" rest,* *\r\n", {"***", "* *"}}, Case{"\"***\r\n* *", {"***", "* *"}},
+        Case{"***\r\n\r\n\r\n", {"***"}}}) {
+    EXPECT_EQ(ParseModuleRows(bytes), rows) << bytes;
+  }
+  for (const char* none : {"", "\r\n", "***\r\n**\r\n", "***\r\n  *\r\n", "***\r\n\r\n***\r\n", "***,\r\n",
+                           "*#*\r\n", "\"* *\"\"\r\n\"*\x1A*\"", "SQRGEN: text too long\r\n"}) {
+    EXPECT_TRUE(ParseModuleRows(none).empty()) << none;
+  }
 }
 
 TEST(ModuleRows, SizeIsBounded) {

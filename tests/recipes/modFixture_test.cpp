@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "common/RunTimeError.h"
+#include "support/Failure.h"
 
 namespace morvane::recipes {
 namespace {
@@ -30,50 +30,30 @@ TEST(modFixture, ReadsEveryFieldAndWritesTheSameBytes) {
 }
 
 TEST(modFixture, ReadsTheLinesWithSeveralValues) {
-  const struct {
-    const char* lengthLine;
-    const char* templateLine;
-    float length;
-    bool rotaryX;
-    bool isTemplate;
-    const char* start;
-    const char* end;
-  } cases[] = {{"12.5,False", "0,0@@", 12.5F, false, false, "", ""},
-               {"junk,true", "0,@A@B@C", 0, true, false, "A", "B@C"},
-               {",-1", "0", 0, true, false, "", ""},
-               {"1e99,0", ",1", 3.402823466e38F, false, true, "", ""},
-               {"2,FALSE", "", 2, false, false, "", ""}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.lengthLine);
-    const Fixture fixture = ParseFixture(WithTail(c.lengthLine, c.templateLine));
-    EXPECT_EQ(fixture.Length, c.length);
-    EXPECT_EQ(fixture.RotaryX, c.rotaryX);
-    EXPECT_EQ(fixture.Template, c.isTemplate);
-    EXPECT_EQ(fixture.StartPosition, c.start);
-    EXPECT_EQ(fixture.EndPosition, c.end);
+  using Case = std::tuple<const char*, const char*, float, bool, bool, const char*, const char*>;
+  for (const auto& [lengthLine, templateLine, length, rotaryX, isTemplate, start, end] :
+       {Case{"12.5,False", "0,0@@", 12.5F, false, false, "", ""},
+        Case{"junk,true", "0,@A@B@C", 0.F, true, false, "A", "B@C"},
+        Case{",-1", "0", 0.F, true, false, "", ""},
+        Case{"1e99,0", ",1", 3.402823466e38F, false, true, "", ""}}) {
+    SCOPED_TRACE(lengthLine);
+    const Fixture fixture = ParseFixture(WithTail(lengthLine, templateLine));
+    EXPECT_EQ(fixture.Length, length);
+    EXPECT_EQ(fixture.RotaryX, rotaryX);
+    EXPECT_EQ(fixture.Template, isTemplate);
+    EXPECT_EQ(fixture.StartPosition + ';' + fixture.EndPosition, std::string(start) + ';' + end);
   }
 }
 
 TEST(modFixture, FailsAsAWhole) {
-  const struct {
-    std::string bytes;
-    int number;
-  } cases[] = {{"", common::kInputPastEndOfFile},
-               {"0\r\n1\r\n", common::kInputPastEndOfFile},
-               {kHead, common::kInputPastEndOfFile},
-               {kHead + "12.5,True\r\n", common::kInputPastEndOfFile},
-               {WithTail("12.5", "0,0@@"), common::kTypeMismatch},
-               {WithTail("12.5,yes", "0,0@@"), common::kTypeMismatch},
-               {WithTail("12.5,True,", "0,0@@"), common::kTypeMismatch},
-               {WithTail("12.5,True", "0,x@@"), common::kTypeMismatch}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.bytes);
-    try {
-      ParseFixture(c.bytes);
-      ADD_FAILURE() << "no error";
-    } catch (const common::RunTimeError& error) {
-      EXPECT_EQ(error.number(), c.number);
-    }
+  for (const std::string& bytes : {std::string(), kHead.substr(0, 9), kHead, kHead + "12.5,True\r\n"}) {
+    EXPECT_EQ(test::Failure([&] { ParseFixture(bytes); }), "Input past end of file") << bytes;
+  }
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [lengthLine, templateLine] : {Case{"12.5", "0,0@@"}, Case{"12.5,yes", "0,0@@"},
+                                                 Case{"12.5,True,", "0,0@@"}, Case{"1,True", "0,x@@"}}) {
+    const std::string bytes = WithTail(lengthLine, templateLine);
+    EXPECT_EQ(test::Failure([&] { ParseFixture(bytes); }), "Type mismatch") << bytes;
   }
 }
 

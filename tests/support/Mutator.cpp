@@ -78,7 +78,7 @@ class Mutator {
   void RepeatLine(std::string& text, std::size_t place) {
     const std::string line = text.substr(place, std::min(text.find('\n', place), text.size()) + 1 - place);
     std::string lines;
-    for (std::size_t left = Below(2) * (std::size_t{1} << Below(9)); left > 0; --left) lines += line;
+    for (auto left = Below(2) << Below(9); left > 0 && lines.size() < kLongestInput; --left) lines += line;
     text.replace(place, line.size(), lines);
   }
   void ReplaceNumber(std::string& text, std::size_t place) {

@@ -19,48 +19,31 @@ class LockImages : public ::testing::Test {
 
 TEST_F(LockImages, FindsAJobByItsNameAlone) {
   fileSystem_.Put(kList, "\r\n" + kLines + "D.TJB\r\nA.TJB,SECOND.BMP,9,9,9,9");
-  const struct {
-    const char* job;
-    bool found;
-    const char* image;
-    float x, y, width, height;
-  } cases[] = {{"A.TJB", true, "A.BMP", 1, 2.5F, 3, 4},
-               {"/home/jobs/B.TJB", true, "", 0, 0, 2, 2},
-               {"SUB\\c.tjb", true, "C.BMP", 0.125F, -1, 1e10F, 4},
-               {"D.TJB", true, "", 0, 0, 0, 0},
-               {"E.TJB", false, "kept", 7, 7, 7, 7}};
-  for (const auto& c : cases) {
-    LockRecord r{c.job, "kept", 7, 7, 7, 7};
-    EXPECT_EQ(FindLockRecord(files_, r), c.found) << c.job;
-    EXPECT_EQ(r.Image, c.image) << c.job;
-    EXPECT_EQ((std::vector<float>{r.X, r.Y, r.Width, r.Height}),
-              (std::vector<float>{c.x, c.y, c.width, c.height}))
-        << c.job;
+  using Case = std::tuple<const char*, bool, const char*, std::vector<float>>;
+  for (const auto& [job, found, image, place] :
+       {Case{"A.TJB", true, "A.BMP", {1, 2.5F, 3, 4}}, Case{"/home/jobs/B.TJB", true, "", {0, 0, 2, 2}},
+        Case{"SUB\\c.tjb", true, "C.BMP", {0.125F, -1, 1e10F, 4}}, Case{"D.TJB", true, "", {0, 0, 0, 0}},
+        Case{"E.TJB", false, "kept", {7, 7, 7, 7}}}) {
+    LockRecord r{job, "kept", 7, 7, 7, 7};
+    EXPECT_EQ(FindLockRecord(files_, r), found) << job;
+    EXPECT_EQ(r.Image, image) << job;
+    EXPECT_EQ((std::vector<float>{r.X, r.Y, r.Width, r.Height}), place) << job;
   }
 }
 
 TEST_F(LockImages, WritesTheRecordAndDropsTheLaterOnes) {
-  const struct {
-    const char* job;
-    bool remove;
-    std::string list;
-  } cases[] = {{"b.tjb", false, "A.TJB,A.BMP,1,2.5,3,4\r\nb.tjb,NEW.BMP,0.5,-1,2,1E+10\r\n"},
-               {"B.TJB", true, "A.TJB,A.BMP,1,2.5,3,4\r\n"},
-               {"A.TJB", true, ""},
-               {"E.TJB", false, kLines + "E.TJB,NEW.BMP,0.5,-1,2,1E+10\r\n"},
-               {"E.TJB", true, kLines}};
-  for (const auto& c : cases) {
-    fileSystem_.Put(kList, kLines);
-    WriteLockRecord(files_, {c.job, "NEW.BMP", 0.5F, -1, 2, 1e10F}, c.remove);
-    EXPECT_EQ(fileSystem_.Get(kList), c.list) << c.job;
-  }
-}
-
-TEST_F(LockImages, AMissingListIsCreated) {
-  LockRecord record{"A.TJB", "", 0, 0, 0, 0};
-  EXPECT_FALSE(FindLockRecord(files_, record));
   WriteLockRecord(files_, {"A.TJB", "A.BMP", 1, 2.5F, 3, 4}, false);
-  EXPECT_EQ(fileSystem_.Get(kList), "A.TJB,A.BMP,1,2.5,3,4\r\n");
+  const std::string first = "A.TJB,A.BMP,1,2.5,3,4\r\n";
+  EXPECT_EQ(fileSystem_.Get(kList), first) << "a missing list is created";
+  const std::string rest = ",NEW.BMP,0.5,-1,2,1E+10\r\n";
+  using Case = std::tuple<const char*, bool, std::string>;
+  for (const auto& [job, remove, list] :
+       {Case{"b.tjb", false, first + "b.tjb" + rest}, Case{"B.TJB", true, first}, Case{"A.TJB", true, ""},
+        Case{"E.TJB", false, kLines + "E.TJB" + rest}, Case{"E.TJB", true, kLines}}) {
+    fileSystem_.Put(kList, kLines);
+    WriteLockRecord(files_, {job, "NEW.BMP", 0.5F, -1, 2, 1e10F}, remove);
+    EXPECT_EQ(fileSystem_.Get(kList), list) << job;
+  }
 }
 
 TEST_F(LockImages, AListThatCannotBeReadIsNotWrittenAnew) {

@@ -47,22 +47,20 @@ TEST_F(RasterCache, BakesOnlyForANewerRaster) {
   EXPECT_EQ(Runs(), 2U);
 }
 
-TEST_F(RasterCache, AFailedBakeLeavesNoBitmapAndIsTriedAgain) {
-  const struct {
-    RasterStatus status;
-    void (*expect)(test::SideProgramStation&);
-  } cases[] = {
-      {RasterStatus::ToolNotFound, [](test::SideProgramStation& s) { s.ExpectNoStart(); }},
-      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(0); }},
-      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.ExpectEnd(2); }},
-      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", kBitmap, 1); }},
-      {RasterStatus::Failed, [](test::SideProgramStation& s) { s.Expect("Temp/LOGO.BMP", "BMgarbage"); }}};
-  std::size_t runs = 0;
-  for (const auto& c : cases) {
-    c.expect(station_);
-    EXPECT_EQ(Draw().status, c.status);
+TEST_F(RasterCache, AFailedBakeLeavesNoBitmapAndIsTriedAgainByTheNextPass) {
+  station_.ExpectNoStart();
+  station_.ExpectEnd(0);
+  station_.ExpectEnd(2);
+  station_.Expect("Temp/LOGO.BMP", kBitmap, 1);
+  station_.Expect("Temp/LOGO.BMP", "BMgarbage");
+  for (std::size_t run = 1; run <= 5; ++run) {
+    FailedRasters failed;
+    for (int line = 0; line < 3; ++line) {
+      EXPECT_EQ(BuildRasterBitmap(station_.runner, "LOGO.RAS", failed).status,
+                run == 1 ? RasterStatus::ToolNotFound : RasterStatus::Failed);
+    }
     EXPECT_FALSE(station_.fileSystem.Has("/base/Temp/LOGO.BMP"));
-    EXPECT_EQ(Runs(), ++runs);
+    EXPECT_EQ(Runs(), run);
   }
 }
 
@@ -70,15 +68,6 @@ TEST_F(RasterCache, RastersNeverShareABitmap) {
   station_.fileSystem.Put("/base/SUB.1/LOGO.RAS", "another raster");
   station_.Expect("Temp/SUB.1$LOGO.BMP", kBitmap);
   EXPECT_EQ(Draw("SUB.1\\LOGO.RAS").bitmap, "\\Temp\\SUB.1$LOGO.BMP");
-}
-
-TEST_F(RasterCache, OnePassTriesABadRasterOnce) {
-  FailedRasters failed;
-  station_.ExpectNoStart();
-  for (int line = 0; line < 1000; ++line) {
-    EXPECT_EQ(BuildRasterBitmap(station_.runner, "LOGO.RAS", failed).status, RasterStatus::ToolNotFound);
-  }
-  EXPECT_EQ(Runs(), 1U);
 }
 
 TEST_F(RasterCache, NoToolForARasterThatCannotBeUsed) {
@@ -90,18 +79,16 @@ TEST_F(RasterCache, NoToolForARasterThatCannotBeUsed) {
 }
 
 TEST(BitmapSize, ReadsBothHeaderForms) {
-  const struct {
-    std::string bytes;
-    std::int32_t width, height;
-  } cases[] = {{"BM............\x28\0\0\0\3\1\0\0\xFE\xFF\xFF\xFF"s, 259, 2},  // rows from top to bottom
-               {"BM............\x0C\0\0\0\xFF\xFF\2\0\1\0\1\0"s, 65535, 2},    // 16-bit sizes
-               {"BM............\x28\0\0\0\3\0\0\0\0\0\0\x80"s, 0, 0},
-               {"BM............\x28\0\0\0\xFF\xFF\xFF\xFF\2\0\0\0"s, 0, 0},
-               {kBitmap.substr(0, 25), 0, 0}};
-  for (const auto& c : cases) {
-    const PixelSize size = BitmapSize(c.bytes).value_or(PixelSize{});
-    EXPECT_EQ(size.width, c.width) << ::testing::PrintToString(c.bytes);
-    EXPECT_EQ(size.height, c.height) << ::testing::PrintToString(c.bytes);
+  // Rows from top to bottom, 16-bit sizes, then what is no picture.
+  using Case = std::tuple<std::string, int, int>;
+  for (const auto& [bytes, width, height] :
+       {Case{"BM............\x28\0\0\0\3\1\0\0\xFE\xFF\xFF\xFF"s, 259, 2},
+        Case{"BM............\x0C\0\0\0\xFF\xFF\2\0\1\0\1\0"s, 65535, 2},
+        Case{"BM............\x28\0\0\0\3\0\0\0\0\0\0\x80"s, 0, 0},
+        Case{"BM............\x28\0\0\0\xFF\xFF\xFF\xFF\2\0\0\0"s, 0, 0}, Case{kBitmap.substr(0, 25), 0, 0}}) {
+    const PixelSize size = BitmapSize(bytes).value_or(PixelSize{});
+    EXPECT_EQ(size.width, width) << ::testing::PrintToString(bytes);
+    EXPECT_EQ(size.height, height) << ::testing::PrintToString(bytes);
   }
 }
 

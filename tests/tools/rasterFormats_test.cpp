@@ -55,66 +55,68 @@ TEST(RasterFormats, ARasterByteForByte) {
   EXPECT_EQ(pixbake::ReadRas(expected), image);
 }
 
-TEST(RasterFormats, BitmapsOfEveryKind) {
-  const std::string blueGreenRed = "\xFF\0\0\0\xFF\0\0\0\xFF"s;
-  const std::string blueGreenRed4 = "\xFF\0\0\x07\0\xFF\0\x07\0\0\xFF\x07"s;
-  // File header with the pixels' place, info header, then colour table and pixels.
-  const auto bitmap = [](std::uint32_t pixelsAt, std::uint32_t width, std::uint32_t height,
-                         std::uint32_t bits, std::uint32_t colours, const std::string& rest) {
-    std::string bytes = "BM"s + std::string(52, '\0');
-    const std::pair<std::size_t, std::uint32_t> fields[] = {
-        {10, pixelsAt}, {14, 40}, {18, width}, {22, height}, {26, 1}, {28, bits}, {46, colours}};
-    for (const auto& [at, value] : fields) bytes = Patched(bytes, at, value);
-    return bytes + rest;
-  };
-  const std::string colours = "\xFF\0\0\0\0\xFF\0\0\0\0\xFF\0"s;  // blue, green, red
-  const struct {
-    std::string bytes;
-    GreyImage image;
-  } cases[] = {{bitmap(54, 3, 1, 24, 0, blueGreenRed + "fil"), {3, 1, "\x1D\x96\x4C"}},
-               {bitmap(56, 1, 2, 32, 0, "..\x10\x10\x10.\x20\x20\x20."s), {1, 2, "\x20\x10"}},
-               {bitmap(54, 3, static_cast<std::uint32_t>(-1), 32, 0, blueGreenRed4), {3, 1, "\x1D\x96\x4C"}},
-               {bitmap(66, 2, static_cast<std::uint32_t>(-2), 8, 3, colours + "\0\1..\2\0.."s),
-                {2, 2, "\x1D\x96\x4C\x1D"}}};
-  for (const auto& each : cases) EXPECT_EQ(pixbake::ReadBitmap(each.bytes), each.image);
+// File header with the pixels' place, info header, then colour table and pixels.
+std::string Bitmap(std::uint32_t pixelsAt, int width, int height, std::uint32_t bits, std::uint32_t colours,
+                   const std::string& rest) {
+  std::string bytes = "BM"s + std::string(52, '\0');
+  using Field = std::pair<std::size_t, std::uint32_t>;
+  for (const auto& [at, value] : {Field{10, pixelsAt}, Field{14, 40}, Field{18, width}, Field{22, height},
+                                  Field{26, 1}, Field{28, bits}, Field{46, colours}}) {
+    bytes = Patched(bytes, at, value);
+  }
+  return bytes + rest;
+}
 
+using Lie = std::pair<std::string, const char*>;  // bytes and the message about them
+
+TEST(RasterFormats, BitmapsOfEveryKind) {
+  const std::string colours = "\xFF\0\0\0\0\xFF\0\0\0\0\xFF\0"s;  // blue, green, red
+  using Case = std::pair<std::string, GreyImage>;
+  for (const auto& [bytes, image] :
+       {Case{Bitmap(54, 3, 1, 24, 0,
+                    "\xFF\0\0\0\xFF\0\0\0\xFF"
+                    "fil"s),
+             {3, 1, "\x1D\x96\x4C"}},
+        Case{Bitmap(56, 1, 2, 32, 0, "..\x10\x10\x10.\x20\x20\x20."s), {1, 2, "\x20\x10"}},
+        Case{Bitmap(54, 3, -1, 32, 0, "\xFF\0\0\x07\0\xFF\0\x07\0\0\xFF\x07"s), {3, 1, "\x1D\x96\x4C"}},
+        Case{Bitmap(66, 2, -2, 8, 3, colours + "\0\1..\2\0.."s), {2, 2, "\x1D\x96\x4C\x1D"}}}) {
+    EXPECT_EQ(pixbake::ReadBitmap(bytes), image);
+  }
   const std::string good = pixbake::WriteBitmap({2, 1, "\x10\x20"});
   EXPECT_EQ(good.size(), 1078u + 4u);
-  const struct {
-    std::string bytes;
-    const char* message;
-  } bad[] = {
-      {bitmap(66, 2, 1, 8, 3, colours + "\0\3.."s), "A pixel has a colour that is not in the bitmap's table"},
-      {bitmap(54, 2, 1, 8, 3, colours + "\0\1.."s), "The bitmap's pixels lie outside the file"},
-      {Patched(good, 10, 0xFFFFFFFF), "The bitmap's pixels lie outside the file"},
-      {Patched(good, 14, 0xFFFFFFFF), "The bitmap's header is not known"},
-      {Patched(good, 14, 12), "The bitmap's header is not known"},
-      {Patched(good, 18, 0), "The picture has no pixels"},
-      {Patched(good, 18, 0x80000000), "The bitmap's width is negative"},
-      {Patched(good, 22, 0x80000000), "The picture is too large (2 x 2147483648)"},
-      {Patched(Patched(good, 18, 32767), 22, 32767), "The picture is too large (32767 x 32767)"},
-      {Patched(good, 22, 32767), "The bitmap ends within its pixels"},
-      {Patched(good, 28, 4), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
-      {Patched(good, 30, 1), "Only uncompressed bitmaps of 8, 24 or 32 bits are read"},
-      {Patched(good, 46, 257), "The bitmap's colour table is too long"}};
-  for (const auto& each : bad) EXPECT_EQ(Failure(pixbake::ReadBitmap, each.bytes), each.message);
+  const char* const outside = "The bitmap's pixels lie outside the file";
+  const char* const kinds = "Only uncompressed bitmaps of 8, 24 or 32 bits are read";
+  for (const auto& [bytes, message] :
+       {Lie{Bitmap(66, 2, 1, 8, 3, colours + "\0\3.."s),
+            "A pixel has a colour that is not in the bitmap's table"},
+        Lie{Bitmap(54, 2, 1, 8, 3, colours + "\0\1.."s), outside},
+        Lie{Patched(good, 10, 0xFFFFFFFF), outside},
+        Lie{Patched(good, 14, 12), "The bitmap's header is not known"},
+        Lie{Patched(good, 18, 0), "The picture has no pixels"},
+        Lie{Patched(good, 18, 0x80000000), "The bitmap's width is negative"},
+        Lie{Patched(good, 22, 0x80000000), "The picture is too large (2 x 2147483648)"},
+        Lie{Patched(good, 22, 32767), "The bitmap ends within its pixels"}, Lie{Patched(good, 28, 4), kinds},
+        Lie{Patched(good, 30, 1), kinds},
+        Lie{Patched(good, 46, 257), "The bitmap's colour table is too long"},
+        Lie{"", "The bitmap ends within its header"}}) {
+    EXPECT_EQ(Failure(pixbake::ReadBitmap, bytes), message);
+  }
 }
 
 TEST(RasterFormats, RastersThatLie) {
   const std::string good = pixbake::WriteRas({5, 2, "aaaaabbbbb"});  // two runs of two bytes
-  const struct {
-    std::string bytes;
-    const char* message;
-  } cases[] = {{good + ".", "The raster is damaged or cut short"},
-               {Patched(good, 4, 2), "The raster is of a version that is not known"},
-               {"MRAS", "The raster ends within its header"},
-               {WithChecksum(Patched(good, 8, 0)), "The picture has no pixels"},
-               {WithChecksum(Patched(good, 8, 0xFFFFFFFF)), "The picture is too large (4294967295 x 2)"},
-               {WithChecksum(Patched(Patched(good, 8, 8192), 12, 8192)), "The raster ends within its pixels"},
-               {WithChecksum(Patched(good, 8, 4)), "A row of the raster is too long"},
-               {WithChecksum(Patched(good, 12, 1)), "The raster has more data than pixels"},
-               {WithChecksum(Patched(good, 16, 0x62046183)), "The raster ends within its pixels"}};
-  for (const auto& each : cases) EXPECT_EQ(Failure(pixbake::ReadRas, each.bytes), each.message);
+  for (const auto& [bytes, message] :
+       {Lie{good + ".", "The raster is damaged or cut short"},
+        Lie{Patched(good, 4, 2), "The raster is of a version that is not known"},
+        Lie{"MRAS", "The raster ends within its header"},
+        Lie{WithChecksum(Patched(good, 8, 0)), "The picture has no pixels"},
+        Lie{WithChecksum(Patched(good, 8, 0xFFFFFFFF)), "The picture is too large (4294967295 x 2)"},
+        Lie{WithChecksum(Patched(Patched(good, 8, 8192), 12, 8192)), "The raster ends within its pixels"},
+        Lie{WithChecksum(Patched(good, 8, 4)), "A row of the raster is too long"},
+        Lie{WithChecksum(Patched(good, 12, 1)), "The raster has more data than pixels"},
+        Lie{WithChecksum(Patched(good, 16, 0x62046183)), "The raster ends within its pixels"}}) {
+    EXPECT_EQ(Failure(pixbake::ReadRas, bytes), message);
+  }
 }
 
 // Whatever is read must be a whole picture; everything else must be refused in words.
