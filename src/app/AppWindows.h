@@ -30,6 +30,7 @@ class AppWindows : public widgets::Windows {
   QWidget* MainWindow() override;
   void OpenGraphicViewer(const std::string& file) override;
   void Refresh() override;
+  void RedrawActiveJob() override;
 
   // The text job editor, made on first use, in front of all others.
   textjob::frmEdit* ShowEditor();
@@ -41,7 +42,6 @@ class AppWindows : public widgets::Windows {
   void OpenFile(const std::string& path);
   // Opens a job (program name) in the editor, once a changed one there is settled.
   void OpenJob(const std::string& name);
-  void RedrawActiveJob();
   bool EditorIsActive() const;
   // Shows a dialog until it is closed.
   int ShowModal(QDialog& dialog);

@@ -3,6 +3,7 @@
 #include "app/AppWindows.h"
 #include "app/frmAbout.h"
 #include "app/frmMain.h"
+#include "app/frmOptions.h"
 #include "common/FileDialogs.h"
 #include "common/Files.h"
 #include "common/Settings.h"
@@ -58,6 +59,12 @@ void MenuActions::Toggle(bool ViewOptions::*mark) {
   frame_.Refresh();
 }
 
+void MenuActions::mnuViewOptions_Click() {
+  frmOptions options(context_, &frame_);
+  windows_.ShowModal(options);
+  frame_.Refresh();
+}
+
 void MenuActions::mnuViewToolPath_Click() {
   Toggle(&ViewOptions::ToolPath);
 }
@@ -84,10 +91,6 @@ void MenuActions::mnuHelpAbout_Click() {
 
 void MenuActions::JobPanel_Click() {
   if (context_.settings.GetSetting(common::kSettingsSection, "EnableProduction", "0") != "1") return;
-  context_.statusPanels.Tell(widgets::kNotAvailable);
-}
-
-void MenuActions::ConnectionPanel_Click() {
   context_.statusPanels.Tell(widgets::kNotAvailable);
 }
 

@@ -27,6 +27,7 @@ class MenuActions {
   void mnuGraphicView_Click();
   void mnuGraphicOpenLastJob_Click();
   void mnuFontView_Click();
+  void mnuViewOptions_Click();
   void mnuViewToolPath_Click();
   void mnuViewGridLines_Click();
   void mnuViewReferenceMarks_Click();
@@ -37,8 +38,6 @@ class MenuActions {
 
   // The status bar's second panel: choose a product, when production is enabled.
   void JobPanel_Click();
-  // The status bar's third panel: the options.
-  void ConnectionPanel_Click();
 
  private:
   void Toggle(bool textjob::ViewOptions::*mark);

@@ -88,7 +88,7 @@ constexpr MenuEntry kEntries[] = {
 
     {"mnuView", "mnuViewHistory", "&History", "", "Show what the machine has done"},
     {"mnuView", "mnuViewDetailedHistory", "&Detailed History", "", "Show what the machine has done, line by line"},
-    {"mnuView", "mnuViewOptions", "&Options...", "", "Change the program's settings", nullptr, kAny, kPlain, kLine},
+    {"mnuView", "mnuViewOptions", "&Options...", "", "Change the program's settings", &A::mnuViewOptions_Click, kAny, kPlain, kLine},
     {"mnuView", "mnuViewToolPath", "&Tool Path", "Ctrl+1", "Draw the moves between the marks", &A::mnuViewToolPath_Click, kAny, kCheck, kLine},
     {"mnuView", "mnuViewGridLines", "&Grid Lines", "Ctrl+2", "Draw the grid", &A::mnuViewGridLines_Click, kAny, kCheck},
     {"mnuView", "mnuViewReferenceMarks", "&Reference Marks", "Ctrl+3", "Draw a cross at each line's position", &A::mnuViewReferenceMarks_Click, kAny, kCheck},

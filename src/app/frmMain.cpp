@@ -40,7 +40,7 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   auto* bar = new MainStatusBar(context.statusPanels, this);
   setStatusBar(bar);
   connect(bar, &MainStatusBar::JobClicked, this, [this] { actions_->JobPanel_Click(); });
-  connect(bar, &MainStatusBar::ConnectionClicked, this, [this] { actions_->ConnectionPanel_Click(); });
+  connect(bar, &MainStatusBar::ConnectionClicked, this, [this] { actions_->mnuViewOptions_Click(); });
   connect(area_, &QMdiArea::subWindowActivated, this, &frmMain::EnableEntries);
   setAcceptDrops(true);
 }

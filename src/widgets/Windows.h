@@ -17,6 +17,8 @@ class Windows {
   virtual void OpenGraphicViewer(const std::string& file) = 0;
   // Takes up changed settings and draws the active job anew.
   virtual void Refresh() = 0;
+  // Draws the active job anew, if there is one.
+  virtual void RedrawActiveJob() = 0;
 };
 
 }  // namespace morvane::widgets

@@ -143,9 +143,6 @@ TEST(frmMain, StatusPanels) {
   }
   job.click();
   EXPECT_EQ(frame.statusBar()->currentMessage(), "") << "ignored without production";
-  connection.click();
-  EXPECT_NE(frame.statusBar()->currentMessage(), "");
-  frame.statusBar()->clearMessage();
   station.Set("EnableProduction", "1");
   station.Entry("mnuViewRefresh").trigger();
   EXPECT_TRUE(Find<QMenu>(frame, "mnuProduction").menuAction()->isVisible());

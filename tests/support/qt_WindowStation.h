@@ -42,6 +42,19 @@ T& Find(const QObject& parent, const char* name) {
   return *found;
 }
 
+// The real disk, until it is told to be full.
+class FillableDisk : public platform::PosixFileSystem {
+ public:
+  bool full = false;
+
+  std::unique_ptr<platform::OutputFile> CreateNew(const std::string& path, const std::string& permissionsLike,
+                                                  platform::Error& error) override {
+    if (!full) return PosixFileSystem::CreateNew(path, permissionsLike, error);
+    error = platform::Error::DiskFull;
+    return nullptr;
+  }
+};
+
 class WindowStation {
  public:
   WindowStation();
@@ -67,7 +80,7 @@ class WindowStation {
   static void Pump();
 
   TempFolder folder;
-  platform::PosixFileSystem fileSystem;
+  FillableDisk fileSystem;
   platform::PosixSystemInfo systemInfo;
   FakeProcesses processes;
   FakePrompts prompts;

@@ -21,6 +21,16 @@ QImage Load(const std::string& path) {
 
 }  // namespace
 
+QSizeF SizeInInches(const QImage& picture) {
+  constexpr double kInchesPerMeter = 1 / 0.0254;
+  constexpr int kInvalidPicture = 481;
+  if (picture.isNull() || picture.dotsPerMeterX() <= 0 || picture.dotsPerMeterY() <= 0) {
+    throw common::RunTimeError(kInvalidPicture, "Invalid picture");
+  }
+  return {picture.width() * kInchesPerMeter / picture.dotsPerMeterX(),
+          picture.height() * kInchesPerMeter / picture.dotsPerMeterY()};
+}
+
 const QImage& PictureStore::Get(const std::string& name) {
   std::string path;
   std::int64_t modified = 0;

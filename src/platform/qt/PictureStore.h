@@ -12,6 +12,9 @@ class Files;
 
 namespace morvane::platform {
 
+// From its resolution. Throws "Invalid picture" for one that could not be loaded.
+QSizeF SizeInInches(const QImage& picture);
+
 class PictureStore {
  public:
   explicit PictureStore(const common::Files& files) : files_(files) {}
