@@ -1,7 +1,8 @@
-// A wait window that only keeps what it was told.
+// Wait window and progress figure that only keep what they were told.
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Prompts.h"
@@ -18,6 +19,18 @@ class FakeWaitWindow : public platform::WaitWindow {
     texts.push_back(text);
   }
   void Close() override { shown = false; }
+};
+
+class FakeProgress : public platform::Progress {
+ public:
+  bool shown = false;
+  std::vector<std::pair<std::int64_t, std::int64_t>> steps;  // done, known
+
+  void Set(std::int64_t done, std::int64_t known) override {
+    shown = true;
+    steps.emplace_back(done, known);
+  }
+  void Clear() override { shown = false; }
 };
 
 }  // namespace morvane::test
