@@ -1,0 +1,38 @@
+#include "link/ControllerNames.h"
+
+#include <algorithm>
+
+#include "common/RunTimeError.h"
+#include "link/LineEnds.h"
+
+namespace morvane::link {
+namespace {
+
+constexpr std::size_t kShown = 80;  // characters of a name that nobody could read to its end
+
+}  // namespace
+
+bool AcceptName(const common::Files& files, platform::Prompts& prompts, const std::string& name) {
+  try {
+    files.ResolveInside(name);
+    return true;
+  } catch (const common::RunTimeError&) {
+    std::string shown = name.substr(0, kShown);
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < 32; }, '?');
+    prompts.MsgBox("This name leads out of the folder and is refused: " + shown);
+    return false;
+  }
+}
+
+std::vector<std::string> ListedNames(const common::Files& files) {
+  std::vector<std::string> names = ReadLines(files, kListing);
+  names.erase(std::remove(names.begin(), names.end(), std::string()), names.end());
+  return names;
+}
+
+std::string WaitText(const std::string& what) {
+  return what + "\r\n\r\n" + "Please Wait ...";
+}
+
+}  // namespace morvane::link
