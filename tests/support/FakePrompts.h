@@ -23,10 +23,12 @@ class FakePrompts : public platform::Prompts {
   // cancelled ("No"); a box with only an OK button needs no script.
   std::deque<platform::Answer> answers;
   std::deque<Strings> files;  // what the dialogs for files and folders choose
+  std::deque<Strings> picks;  // what is chosen from lists
 
   // Records.
   std::vector<Box> boxes;
   std::vector<platform::FileDialogRequest> requests;
+  std::vector<Strings> lists;
 
   // Texts of all boxes so far.
   Strings Texts() const {
@@ -59,8 +61,14 @@ class FakePrompts : public platform::Prompts {
   std::optional<std::uint32_t> ChooseColor(std::uint32_t) override {
     return Unexpected("colour"), std::nullopt;
   }
-  std::string PickOne(const std::string& title, const Strings&) override { return Unexpected(title), ""; }
-  Strings PickMany(const std::string& title, const Strings&) override { return Unexpected(title), Strings(); }
+  std::string PickOne(const std::string& title, const Strings& entries) override {
+    const Strings picked = PickMany(title, entries);
+    return picked.empty() ? "" : picked.front();
+  }
+  Strings PickMany(const std::string& title, const Strings& entries) override {
+    lists.push_back(entries);
+    return Take(picks, title, {});
+  }
 
  private:
   static void Unexpected(const std::string& question) {

@@ -198,7 +198,7 @@ TEST(JobTransfer, FetchesAJobAndItsFiles) {
                                 {"QT7250FILE I.JOB"},  {"QT7250FILE C.JOB"},   {"QT7250FILE press.pre"}};
       if (!images) std::rotate(sent.begin() + 6, sent.begin() + 7, sent.end());
       EXPECT_EQ(station.controller.wire, Wire(network, sent));
-      EXPECT_THAT(station.prompts.pickLists, ElementsAre(ElementsAre("A.TJB", "NEW.TJB")));
+      EXPECT_THAT(station.prompts.lists, ElementsAre(ElementsAre("A.TJB", "NEW.TJB")));
       EXPECT_EQ(station.disk.Get("/base/NEW.TJB"), job);
       EXPECT_EQ(station.disk.Get("/base/F.FIL"), "new\r\n");
       EXPECT_EQ(station.document.Name(), "NEW.TJB");
