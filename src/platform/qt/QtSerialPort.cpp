@@ -1,5 +1,6 @@
 #include "platform/qt/QtSerialPort.h"
 
+#include <poll.h>
 #include <sys/ioctl.h>
 
 #include <QHash>
@@ -13,6 +14,7 @@ namespace {
 // What is not taken stays with the system, which holds back a peer that can wait.
 constexpr qint64 kReadBuffer = 64 * 1024;
 constexpr int kLastPort = 4;
+constexpr const char* kGone = "The serial port is gone";
 
 // "38400,n,8,1": baud, parity, data bits, stop bits.
 bool Configure(QSerialPort& port, const std::string& settings) {
@@ -32,6 +34,11 @@ bool Configure(QSerialPort& port, const std::string& settings) {
          port.setFlowControl(QSerialPort::NoFlowControl);
 }
 
+bool HungUp(const QSerialPort& port) {
+  pollfd state{port.handle(), 0, 0};
+  return poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0;
+}
+
 }  // namespace
 
 QtSerialPort::QtSerialPort(const common::Settings& settings) : settings_(settings) {
@@ -40,7 +47,9 @@ QtSerialPort::QtSerialPort(const common::Settings& settings) : settings_(setting
     if (IsOpen() && onReceive) onReceive();
   });
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_, [this](QSerialPort::SerialPortError error) {
-    if (error != QSerialPort::NoError && IsOpen()) Fail(port_.errorString());
+    if (error == QSerialPort::NoError || !IsOpen()) return;
+    // The toolkit's words for a line that is gone are those of whatever failed last.
+    Fail(HungUp(port_) ? QString(kGone) : port_.errorString());
   });
 }
 
@@ -61,8 +70,7 @@ std::string QtSerialPort::Open(int number, const std::string& settings) {
   port_.clear(QSerialPort::Input);
   // A line that is gone reads as empty without end; only this tells.
   hangUp_ = std::make_unique<QSocketNotifier>(port_.handle(), QSocketNotifier::Exception);
-  QObject::connect(hangUp_.get(), &QSocketNotifier::activated, &port_,
-                   [this] { Fail("The serial port is gone"); });
+  QObject::connect(hangUp_.get(), &QSocketNotifier::activated, &port_, [this] { Fail(kGone); });
   return failure_;
 }
 

@@ -1,0 +1,143 @@
+// The operations of the link through the real adapters against the simulated controller.
+#include "support/Simulator.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <filesystem>
+
+#include "link/modComm.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtSerialPort.h"
+#include "platform/qt/QtTcpClient.h"
+#include "support/FakePrompts.h"
+#include "support/FakeWaitWindow.h"
+
+namespace morvane::test {
+namespace {
+
+// Eight times as fast as the system's, so that pauses and time-outs of seconds do not last.
+class QuickClock : public platform::Clock {
+ public:
+  explicit QuickClock(platform::Operations& operations) : clock_(operations) {}
+  platform::DateTime Now() const override { return clock_.Now(); }
+  double MonotonicSeconds() const override { return clock_.MonotonicSeconds() * kSpeed; }
+  void Sleep(int milliseconds) override { clock_.Sleep(milliseconds / kSpeed); }
+  void DoEvents() override { clock_.DoEvents(); }
+
+ private:
+  static constexpr int kSpeed = 8;
+  platform::QtClock clock_;
+};
+
+constexpr const char* kAddress = "127.0.0.72";
+
+struct Host {
+  Host(bool network, const Simulator& simulator) {
+    settings.Apply({{"Settings", "ComPort", network ? "5" : "3"},
+                    {"Settings", "IP", kAddress},
+                    {"SerialDevices", "COM3", simulator.Line()}});
+    files.EnsureTemp();
+  }
+  std::string Boxes() const {
+    std::string text;
+    for (const FakePrompts::Box& box : prompts.boxes) text += box.text + '|';
+    return text;
+  }
+
+  TempFolder folder;
+  platform::PosixFileSystem fileSystem;
+  common::Files files{fileSystem, folder.Path(), folder.Path()};
+  common::Settings settings{files};
+  bool abort = false;
+  platform::Operations operations{abort};
+  QuickClock clock{operations};
+  FakePrompts prompts;
+  FakeWaitWindow waitWindow;
+  FakeProgress progress;
+  platform::QtSerialPort serial{settings};
+  platform::QtTcpClient tcp;
+  link::Comm comm{{files, settings, clock, prompts, waitWindow, progress, serial, tcp, abort}};
+};
+
+TEST(Simulator, TakesAndGivesFilesOverBothTransports) {
+  std::string text = "first\r\n";
+  while (text.size() < 2000) text += "a line of the job \x80\xFF\r\n";
+  std::string bytes;
+  for (int i = 0; i < 9000; ++i) bytes += static_cast<char>(i * 7 % 251);
+  for (const bool network : {false, true}) {
+    SCOPED_TRACE(network);
+    Simulator simulator(kAddress);
+    ASSERT_TRUE(simulator.ready);
+    Host host(network, simulator);
+    host.folder.Write("A.TJB", text);
+    host.folder.Write("LOGO.JOB", "G0 X1\r\nno line end");
+    host.folder.Write("P.RAS", bytes);
+    EXPECT_TRUE(host.comm.DownloadFile("QT7250DFILE a.tjb", "A.TJB"));
+    EXPECT_TRUE(host.comm.DownloadFile("JOB LOGO", "LOGO.JOB"));
+    EXPECT_TRUE(host.comm.DownloadBinaryFile("QT7250DLBIN P.RAS", "P.RAS"));
+    EXPECT_TRUE(simulator.WaitFor("stored P.RAS, 9000 bytes"));
+    EXPECT_EQ(simulator.machine.Read("A.TJB"), text);
+    EXPECT_EQ(simulator.machine.Read("P.RAS"), bytes);
+    EXPECT_EQ(simulator.machine.Read("LOGO.JOB"),
+              network ? "G0 X1\r\nno line end" : "G0 X1\r\nno line end\r\n");
+
+    EXPECT_TRUE(host.comm.UploadFile("QT7250FILE A.TJB", "B.TJB"));
+    EXPECT_EQ(host.folder.Read("B.TJB"), text);
+    EXPECT_TRUE(host.comm.UploadFile("QT7250FILES *.*", "\\Temp\\tmp.lst"));
+    EXPECT_EQ(host.folder.Read("Temp/tmp.lst"), "A.TJB\r\nLOGO.JOB\r\nP.RAS\r\n");
+    EXPECT_TRUE(host.comm.UploadFile("QT7250JOBS", "\\Temp\\tmp.lst"));
+    EXPECT_EQ(host.folder.Read("Temp/tmp.lst"), "LOGO\r\n");
+    EXPECT_TRUE(host.comm.RunWait("A.TJB", 0));
+    EXPECT_FALSE(host.comm.RunWait("NONE.TJB", 0));
+    for (const char* command : {"QT7250RUNFIX LOGO.JOB,A.TJB", "QT7250GCODE G0 X1", "QT7250DELETE P.RAS"}) {
+      EXPECT_TRUE(host.comm.SendCommand(command));
+    }
+    for (const char* said :
+         {"ran A.TJB", "does not have NONE.TJB", "ran A.TJB on LOGO.JOB", "G-code G0 X1", "deleted P.RAS"}) {
+      EXPECT_TRUE(simulator.WaitFor(said)) << said;
+    }
+    EXPECT_NE(simulator.Log().find(network ? "tcp > JOB LOGO\\r\\n" : "pty > JOB LOGO\\r\\n"),
+              std::string::npos);
+    EXPECT_EQ(host.Boxes(), "");
+  }
+}
+
+// Only the first connection meets the fault; the operation behind it works.
+TEST(Simulator, FaultsEndAnOperationAndNotTheNext) {
+  const std::string kTimeout = "got\r\n\r\nTimeout waiting for controller|";
+  const std::string kReset = "Socket Error: Connection reset by peer|" + kTimeout;
+  const std::string kGone = "UploadFile-The serial port is gone|";
+  struct Case {
+    const char* fault;
+    std::string serial;  // boxes; empty: the upload succeeds
+    std::string network;
+  };
+  const Case cases[] = {{"silent-after=9", kTimeout, kTimeout},
+                        {"drop-after=30", kGone, kTimeout},
+                        {"reset-after=30", kGone, kReset},
+                        {"split=3", "", kTimeout},
+                        {"double-cr", "", ""},
+                        {"garbage=3000", kTimeout, kTimeout},
+                        {"flood=1", "", ""}};
+  for (const Case& c : cases) {
+    for (const bool network : {false, true}) {
+      SCOPED_TRACE(std::string(c.fault) + (network ? " tcp" : " serial"));
+      Simulator simulator(kAddress, {c.fault, "times=1"});
+      ASSERT_TRUE(simulator.ready);
+      simulator.machine.Write("A.TXT", "one\r\ntwo\r\n");
+      Host host(network, simulator);
+      const std::string& boxes = network ? c.network : c.serial;
+      EXPECT_EQ(host.comm.UploadFile("QT7250FILE A.TXT", "got"), boxes.empty());
+      EXPECT_EQ(host.Boxes(), boxes);
+      host.prompts.boxes.clear();
+      EXPECT_TRUE(host.comm.UploadFile("QT7250FILE A.TXT", "next"));
+      EXPECT_EQ(host.folder.Read("next"), "one\r\ntwo\r\n");
+      EXPECT_EQ(host.Boxes(), "");
+    }
+  }
+}
+
+}  // namespace
+}  // namespace morvane::test
