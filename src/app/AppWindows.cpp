@@ -83,7 +83,12 @@ void AppWindows::OpenJob(const std::string& name) {
 }
 
 void AppWindows::RedrawActiveJob() {
-  if (EditorIsActive()) Form<textjob::frmEdit>(editor_)->DrawJob();
+  jobIsStale_ = !EditorIsActive();
+  if (!jobIsStale_) Form<textjob::frmEdit>(editor_)->DrawJob();
+}
+
+void AppWindows::RedrawStaleJob() {
+  if (jobIsStale_ && EditorIsActive()) RedrawActiveJob();
 }
 
 bool AppWindows::EditorIsActive() const {

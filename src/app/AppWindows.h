@@ -42,6 +42,8 @@ class AppWindows : public widgets::Windows {
   void OpenFile(const std::string& path);
   // Opens a job (program name) in the editor, once a changed one there is settled.
   void OpenJob(const std::string& name);
+  // A job whose redraw came while another window was active is drawn when its editor comes forward.
+  void RedrawStaleJob();
   bool EditorIsActive() const;
   // Shows a dialog until it is closed.
   int ShowModal(QDialog& dialog);
@@ -51,6 +53,7 @@ class AppWindows : public widgets::Windows {
   frmMain* frame_ = nullptr;
   QPointer<MdiChild> editor_;
   QPointer<MdiChild> fontView_;
+  bool jobIsStale_ = false;
 };
 
 }  // namespace morvane::app

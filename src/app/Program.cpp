@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QTimer>
 
 #include "app/StartSettings.h"
 #include "app/frmMain.h"
@@ -15,6 +16,11 @@
 #include "platform/qt/QtText.h"
 
 namespace morvane::app {
+namespace {
+
+constexpr int kJobAfter = 10;  // milliseconds after the window was shown
+
+}  // namespace
 
 Program::Program(const std::string& programDirectory, const std::string& baseDirectory)
     : programDirectory_(programDirectory),
@@ -106,9 +112,9 @@ void Program::Start(const CommandLine& line) {
   frame_->MDIForm_Load();
   splash.reset();
   frame_->show();
+  if (job.empty()) return;
   // The window stands before the job is drawn, which may take side programs and their waits.
-  clock_.DoEvents();
-  if (!job.empty() && frame_->isVisible()) windows_.OpenFile(job);
+  QTimer::singleShot(kJobAfter, frame_.get(), [this, job] { windows_.OpenFile(job); });
 }
 
 }  // namespace morvane::app

@@ -41,7 +41,10 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   setStatusBar(bar);
   connect(bar, &MainStatusBar::JobClicked, this, [this] { actions_->JobPanel_Click(); });
   connect(bar, &MainStatusBar::ConnectionClicked, this, [this] { actions_->mnuViewOptions_Click(); });
-  connect(area_, &QMdiArea::subWindowActivated, this, &frmMain::EnableEntries);
+  connect(area_, &QMdiArea::subWindowActivated, this, [this] {
+    EnableEntries();
+    windows_.RedrawStaleJob();
+  });
   setAcceptDrops(true);
 }
 

@@ -25,7 +25,7 @@ void frmMain::BuildRecentFiles() {
   auto* recent = new QMenu(tr("&Recent Files"), this);
   recent->setObjectName("mnuFileRecent");
   recent->menuAction()->setStatusTip(tr("Open a file that was used lately"));
-  file->insertMenu(Entry("mnuFileDownload"), recent);
+  file->insertMenu(Entry("mnuFileExit"), recent);
   connect(file, &QMenu::aboutToShow, this, &frmMain::ShowRecentFiles);
 }
 

@@ -157,6 +157,12 @@ TEST_F(frmEditTest, ToolPathMarkDrawsItsLines) {
   EXPECT_EQ(CountPixels(pic(), green), 0);
   station.Entry("mnuViewToolPath").trigger();
   EXPECT_GT(CountPixels(pic(), green), 100);
+  // Toggled behind another window, the job is drawn when it comes forward.
+  auto& picture = pic();
+  station.Entry("mnuFontView").trigger();
+  station.Entry("mnuViewToolPath").trigger();
+  station.Entry("mnuFileEdit").trigger();
+  EXPECT_EQ(CountPixels(picture, green), 0);
 }
 
 TEST_F(frmEditTest, MissingFunctionsSaySo) {

@@ -11,7 +11,8 @@
 namespace morvane::platform {
 
 SingleInstance::SingleInstance(const std::string& baseDirectory) {
-  const QString path = QFileInfo(PathToQt(baseDirectory)).canonicalFilePath();
+  const QFileInfo directory(PathToQt(baseDirectory));
+  const QString path = directory.exists() ? directory.canonicalFilePath() : directory.absoluteFilePath();
   const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256);
   server_.setSocketOptions(QLocalServer::AbstractNamespaceOption);
   server_.listen("morvane-" + QString::fromLatin1(hash.toHex().left(32)));

@@ -1,6 +1,7 @@
 // Small services of the desktop: one instance for each base directory, windows of other programs.
 #pragma once
 
+#include <QAbstractSocket>
 #include <QLocalServer>
 #include <string>
 
@@ -11,8 +12,8 @@ class SingleInstance {
  public:
   // `baseDirectory` is a native path.
   explicit SingleInstance(const std::string& baseDirectory);
-  // False when another process has the base directory.
-  bool First() const { return server_.isListening(); }
+  // False when another process has the base directory. A system without such names has no say in it.
+  bool First() const { return server_.serverError() != QAbstractSocket::AddressInUseError; }
 
  private:
   QLocalServer server_;

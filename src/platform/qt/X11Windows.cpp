@@ -63,7 +63,8 @@ class Display {
     event.type = Atom("WM_PROTOCOLS");
     event.data.data32[0] = Atom("WM_DELETE_WINDOW");
     xcb_send_event(connection_, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&event));
-    xcb_flush(connection_);
+    // The answer to any question means that the server has passed the message on.
+    std::free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
   }
 
  private:
