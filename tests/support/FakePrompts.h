@@ -24,6 +24,7 @@ class FakePrompts : public platform::Prompts {
   std::deque<platform::Answer> answers;
   std::deque<Strings> files;  // what the dialogs for files and folders choose
   std::deque<Strings> picks;  // what is chosen from lists
+  std::deque<std::optional<std::uint32_t>> colors;
 
   // Records.
   std::vector<Box> boxes;
@@ -53,13 +54,13 @@ class FakePrompts : public platform::Prompts {
   std::string ChooseFolder(const std::string& title, const std::string& directory) override {
     return ChooseOne({title, "", "", "", directory});
   }
-  // Nothing asks these yet: each is an unexpected question.
+  // Nothing asks this yet: it is an unexpected question.
   std::optional<std::string> InputBox(const std::string& prompt, const std::string&,
                                       const std::string&) override {
     return Unexpected(prompt), std::nullopt;
   }
   std::optional<std::uint32_t> ChooseColor(std::uint32_t) override {
-    return Unexpected("colour"), std::nullopt;
+    return Take<std::optional<std::uint32_t>>(colors, "colour", std::nullopt);
   }
   std::string PickOne(const std::string& title, const Strings& entries) override {
     const Strings picked = PickMany(title, entries);
