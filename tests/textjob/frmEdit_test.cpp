@@ -7,7 +7,6 @@
 #include "support/qt_Pixels.h"
 #include "support/qt_WindowStation.h"
 #include "widgets/CanvasView.h"
-#include "widgets/NotAvailable.h"
 
 namespace morvane::test {
 namespace {
@@ -163,15 +162,6 @@ TEST_F(frmEditTest, ToolPathMarkDrawsItsLines) {
   station.Entry("mnuViewToolPath").trigger();
   station.Entry("mnuFileEdit").trigger();
   EXPECT_EQ(CountPixels(picture, green), 0);
-}
-
-TEST_F(frmEditTest, MissingFunctionsSaySo) {
-  for (const char* name : {"cmdNewLine", "cmdDeleteLine", "cmdReorder", "cmdOpenFile", "cmdDownload",
-                           "cmdDownloadRun", "cmdUpload", "CmdLockImage"}) {
-    const auto& button = Control<QPushButton>(name);
-    EXPECT_TRUE(button.isVisible() && !button.isEnabled()) << name;
-    EXPECT_EQ(button.toolTip(), widgets::kNotAvailable);
-  }
 }
 
 // A raster line bakes its bitmap with a side program, and windows live on meanwhile.
