@@ -1,6 +1,9 @@
-// The menu table: what stands in it twice or is missing, and what its entries bring up.
+// The menu table against what the program promises, and against the menus that are built from it.
 #include "app/MenuTable.h"
 
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <map>
 #include <set>
 
@@ -9,6 +12,64 @@
 
 namespace morvane::test {
 namespace {
+
+QString Plain(const QString& caption) {
+  return QString(caption).remove('&');
+}
+
+// Menus and captions in their order; "*" marks the entries that only engineers see.
+const std::pair<const char*, std::vector<const char*>> kPromised[] = {
+    {"File",
+     {"Open", "Edit", "Offset", "Close", "Save", "Save As...", "Download", "Upload", "Print", "Exit"}},
+    {"Production", {"Select", "Manage"}},
+    {"Graphic",
+     {"Download", "Upload", "Import", "Optimize", "Generate", "View", "Edit Code", "New Code",
+      "Jog and Teach Viewer", "Check Measurements", "Run G-Code", "Open TEXTJOB.JOB*", "Upload TEXTJOB.JOB"}},
+    {"Raster", {"Download", "Import"}},
+    {"Queue", {"Add Job(s)", "View"}},
+    {"Data Matrix", {"New", "Edit", "Decode", "Download", "Upload"}},
+    {"Font", {"Download", "Upload", "View", "Edit", "Create"}},
+    {"View",
+     {"History", "Detailed History", "Options...", "Tool Path", "Grid Lines", "Reference Marks",
+      "Background Image", "Fixture", "Refresh"}},
+    {"Fixture", {"Modify", "Download", "Upload"}},
+    {"Fill", {"Modify", "Edit Pumps", "Download", "Upload"}},
+    {"Cap", {"Modify", "Download", "Upload"}},
+    {"Scale", {"Modify", "Download", "Upload"}},
+    {"Pallet", {"Modify", "Download", "Upload"}},
+    {"Pressure", {"Modify", "Download", "Upload"}},
+    {"Panel", {"Modify", "Download", "Upload"}},
+    {"Target", {"Modify", "Download", "Upload"}},
+    {"Data Server", {"Configure", "Start", "Stop", "Refresh"}},
+    {"Remote", {}},
+    {"Remote Diag", {}},
+    {"Setup",
+     {"Download", "Upload", "Modify", "Tools", "Security", "Periodic Events", "Shifts", "Download Software",
+      "Download Date/Time", "Reboot Machine*", "Auto Test*"}},
+    {"Backup",
+     {"Backup Controller", "Restore Controller", "Upload Files", "Download Files", "Delete Controller File",
+      "Open FTP for Upload"}},
+    {"Help", {"Send Diagnostics Info To Morvane...", "About Morvane..."}},
+};
+
+TEST(MenuTable, TheBarHoldsEveryPromisedEntryInItsOrder) {
+  WindowStation station;
+  const QList<QAction*> bar = station.Load().menuBar()->actions();
+  ASSERT_EQ(bar.size(), static_cast<qsizetype>(std::size(kPromised)));
+  for (std::size_t i = 0; i < std::size(kPromised); ++i) {
+    const auto& [caption, entries] = kPromised[i];
+    const QAction* action = bar[static_cast<qsizetype>(i)];
+    EXPECT_EQ(Plain(action->text()), caption);
+    QStringList found;
+    if (action->menu() != nullptr) {
+      for (const QAction* entry : action->menu()->actions()) {
+        if (entry->isSeparator() || entry->menu() != nullptr) continue;
+        found << Plain(entry->text()) + (entry->isVisible() ? "" : "*");
+      }
+    }
+    EXPECT_EQ(found, QStringList(entries.begin(), entries.end())) << caption;
+  }
+}
 
 TEST(MenuTable, NamesKeysAndMnemonicsAreUniqueAndHelpIsThere) {
   std::set<std::string> names;
