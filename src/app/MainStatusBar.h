@@ -9,13 +9,17 @@ class QLabel;
 class QProgressBar;
 class QToolButton;
 
+namespace morvane::platform {
+class Clock;
+}
+
 namespace morvane::app {
 
 class MainStatusBar : public QStatusBar {
   Q_OBJECT
 
  public:
-  explicit MainStatusBar(context::StatusPanels& panels, QWidget* parent = nullptr);
+  MainStatusBar(context::StatusPanels& panels, const platform::Clock& clock, QWidget* parent = nullptr);
 
  signals:
   void JobClicked();
@@ -25,11 +29,17 @@ class MainStatusBar : public QStatusBar {
   QToolButton* AddButton(const char* name, const QString& toolTip);
   void ShowText(context::Panel panel, const QString& text);
   void ShowProgress(qint64 done, qint64 known);
+  QString TransferText(qint64 done, qint64 known);
+  void EndProgress();
 
   QToolButton* job_;
   QToolButton* connection_;
   QLabel* mouse_;
   QProgressBar* progress_;
+  QLabel* transfer_;
+  const platform::Clock& clock_;
+  double started_ = 0;  // when the first figure came of what is under way
+  qint64 done_ = -1;    // its last figure; -1: nothing is under way
 };
 
 }  // namespace morvane::app

@@ -35,6 +35,9 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
       fileDialogs_(prompts_, files_, dialogFolders_),
       windows_(context_),
       waitWindow_(windows_),
+      serial_(settings_),
+      comm_(
+          {files_, settings_, clock_, prompts_, waitWindow_, statusPanels_, serial_, tcp_, abortTransfers_}),
       context_{.files = files_,
                .settings = settings_,
                .processes = processRunner_,
@@ -46,6 +49,7 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
                .waitWindow = waitWindow_,
                .progress = statusPanels_,
                .operations = operations_,
+               .comm = comm_,
                .pictures = pictures_,
                .statusPanels = statusPanels_,
                .viewOptions = viewOptions_,

@@ -13,6 +13,7 @@
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "fonts/GlyphCache.h"
+#include "link/modComm.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixPerUserStore.h"
 #include "platform/posix/PosixProcesses.h"
@@ -21,6 +22,8 @@
 #include "platform/qt/PictureStore.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtLocale.h"
+#include "platform/qt/QtSerialPort.h"
+#include "platform/qt/QtTcpClient.h"
 #include "textjob/PreviewState.h"
 #include "textjob/TextJob.h"
 #include "textjob/ViewOptions.h"
@@ -73,6 +76,9 @@ class Program {
   fonts::GlyphCache glyphs_{font_};
   AppWindows windows_;
   widgets::QtWaitWindow waitWindow_;
+  platform::QtSerialPort serial_;
+  platform::QtTcpClient tcp_;
+  link::Comm comm_;
   context::AppContext context_;
   std::unique_ptr<frmMain> frame_;
 };

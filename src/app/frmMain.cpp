@@ -37,7 +37,7 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   BuildMenus(*menuBar(), *actions_);
   BuildRecentFiles();
   BuildWindowList();
-  auto* bar = new MainStatusBar(context.statusPanels, this);
+  auto* bar = new MainStatusBar(context.statusPanels, context.clock, this);
   setStatusBar(bar);
   connect(bar, &MainStatusBar::JobClicked, this, [this] { actions_->JobPanel_Click(); });
   connect(bar, &MainStatusBar::ConnectionClicked, this, [this] { actions_->mnuViewOptions_Click(); });

@@ -10,6 +10,7 @@
 #include "platform/qt/PictureStore.h"
 #include "platform/qt/QtText.h"
 #include "ui_frmOptions.h"
+#include "widgets/UnitLabels.h"
 #include "widgets/Windows.h"
 
 namespace morvane::app {
@@ -28,7 +29,7 @@ frmOptions::frmOptions(const context::AppContext& context, QWidget* parent)
     ShowField(field, settings.Get(kSettingsSection, field.key, field.fallback));
   }
   FillMachines();
-  ShowUnits();
+  widgets::ShowUnits(*this, context_.settings);
   Connect();
 }
 
@@ -73,14 +74,6 @@ void frmOptions::FillMachines() {
   ui_->cmdDelete->setEnabled(ui_->cmbNetwork->count() > 0);
 }
 
-void frmOptions::ShowUnits() {
-  const QString units = ToQt(context_.settings.GetSetting(kSettingsSection, "Units", "in"));
-  for (const common::OptionField& field : common::OptionFields()) {
-    if (field.label == nullptr) continue;
-    findChild<QLabel*>(field.label)->setText(QString("%1 (%2)").arg(field.caption, units));
-  }
-}
-
 void frmOptions::HoldAboveZero(const char* control, const char* message) {
   auto* field = findChild<QLineEdit*>(control);
   if (common::ParseNumber(FromQt(field->text())) > 0) return;
@@ -122,7 +115,7 @@ bool frmOptions::Apply() {
   HoldAboveZero("txtEditorHeight", "The editor height must be greater than 0, setting to 1");
   HoldAboveZero("txtEditorWidth", "The editor width must be greater than 0, setting to 1");
   if (!Write(Changes(), "cmdApply_Click-")) return false;
-  ShowUnits();
+  widgets::ShowUnits(*this, context_.settings);
   context_.windows.RedrawActiveJob();
   return true;
 }

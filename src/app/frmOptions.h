@@ -33,7 +33,6 @@ class frmOptions : public QDialog {
   void Connect();
   void FillLists();
   void FillMachines();
-  void ShowUnits();
   void ShowField(const common::OptionField& field, const std::string& text);
   // Nothing when no choice has been made.
   std::optional<std::string> FieldText(const common::OptionField& field) const;

@@ -24,6 +24,10 @@ class GlyphCache;
 struct FontTable;
 }  // namespace morvane::fonts
 
+namespace morvane::link {
+class Comm;
+}
+
 namespace morvane::textjob {
 struct PreviewState;
 struct TextJob;
@@ -50,6 +54,7 @@ struct AppContext {
   platform::WaitWindow& waitWindow;
   platform::Progress& progress;
   platform::Operations& operations;
+  link::Comm& comm;
   platform::PictureStore& pictures;
   StatusPanels& statusPanels;
   textjob::ViewOptions& viewOptions;

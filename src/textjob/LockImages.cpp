@@ -59,6 +59,10 @@ bool FindLockRecord(const common::Files& files, LockRecord& record) try {
 }
 
 void WriteLockRecord(const common::Files& files, const LockRecord& record, bool remove) {
+  // No quoting: a name with a comma would be read as another record.
+  if (!remove && (record.Job + record.Image).find(',') != std::string::npos) {
+    throw common::RunTimeError(common::kPathFileAccessError);
+  }
   const std::string bytes = ReadList(files);
   common::Lines lines(bytes);
   std::string list;

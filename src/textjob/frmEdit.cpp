@@ -40,6 +40,7 @@ void frmEdit::Connect() {
   connect(ui_->cmbLine, &QListWidget::itemSelectionChanged, this, &frmEdit::cmbLine_Click);
   connect(ui_->txtComments, &QLineEdit::textEdited, this, &frmEdit::txtComments_Change);
   connect(ui_->cmdSave, &QPushButton::clicked, this, &frmEdit::cmdSave_Click);
+  connect(ui_->CmdLockImage, &QPushButton::clicked, this, &frmEdit::CmdLockImage_Click);
   connect(ui_->pic, &widgets::CanvasView::Pressed, this, &frmEdit::pic_MouseDown);
   connect(ui_->pic, &widgets::CanvasView::MouseMoved, this, &frmEdit::pic_MouseMove);
   connect(ui_->pic, &widgets::CanvasView::MouseLeft, this,
@@ -52,7 +53,7 @@ void frmEdit::Connect() {
 
 void frmEdit::MarkMissingFunctions() {
   for (QPushButton* button : {ui_->cmdNewLine, ui_->cmdDeleteLine, ui_->cmdReorder, ui_->cmdOpenFile,
-                              ui_->cmdDownload, ui_->cmdDownloadRun, ui_->cmdUpload, ui_->CmdLockImage}) {
+                              ui_->cmdDownload, ui_->cmdDownloadRun, ui_->cmdUpload}) {
     widgets::MarkNotAvailable(*button);
   }
 }
@@ -73,6 +74,7 @@ void frmEdit::ShowJob() {
   const QString name = ToQt(common::PathFileName(document_.Name()));
   setWindowTitle(tr("Text Job - %1").arg(name) + "[*]");
   context_.statusPanels.SetText(context::Panel::Job, name);
+  RefreshLockButton();
   DrawJob();
 }
 

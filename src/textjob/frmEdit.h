@@ -48,7 +48,9 @@ class frmEdit : public QWidget {
  private:
   void Connect();
   void MarkMissingFunctions();
+  void RefreshLockButton();
   void cmbFile_Click(int index);
+  void CmdLockImage_Click();
   void cmbLine_Click();
   void txtComments_Change(const QString& text);
   void pic_MouseDown(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);

@@ -8,6 +8,7 @@
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
 #include "widgets/frmSelect.h"
+#include "widgets/frmUploadFiles.h"
 
 namespace morvane::widgets {
 
@@ -81,13 +82,12 @@ std::optional<std::uint32_t> QtPrompts::ChooseColor(std::uint32_t preset) {
   return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
 }
 
-std::vector<std::string> QtPrompts::Pick(const std::string& title, const std::vector<std::string>& entries,
-                                         bool many) {
+template <typename Form>
+std::vector<std::string> QtPrompts::Pick(const std::string& title, const std::vector<std::string>& entries) {
   QStringList texts;
   for (const std::string& entry : entries) texts.push_back(ToQt(entry));
-  frmSelect dialog(texts, QApplication::activeWindow());
+  Form dialog(texts, QApplication::activeWindow());
   if (!title.empty()) dialog.setWindowTitle(ToQt(title));
-  if (many) dialog.AllowMany();
   Exec(dialog);
   std::vector<std::string> chosen;
   for (const QString& text : dialog.Selected()) chosen.push_back(FromQt(text));
@@ -95,13 +95,13 @@ std::vector<std::string> QtPrompts::Pick(const std::string& title, const std::ve
 }
 
 std::string QtPrompts::PickOne(const std::string& title, const std::vector<std::string>& entries) {
-  const std::vector<std::string> chosen = Pick(title, entries, false);
+  const std::vector<std::string> chosen = Pick<frmSelect>(title, entries);
   return chosen.empty() ? std::string() : chosen.front();
 }
 
 std::vector<std::string> QtPrompts::PickMany(const std::string& title,
                                              const std::vector<std::string>& entries) {
-  return Pick(title, entries, true);
+  return Pick<frmUploadFiles>(title, entries);
 }
 
 }  // namespace morvane::widgets

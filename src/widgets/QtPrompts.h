@@ -42,7 +42,8 @@ class QtPrompts : public platform::Prompts {
   int Exec(QDialog& dialog);
   void Prepare(QFileDialog& dialog, const platform::FileDialogRequest& request) const;
   void AddSidePanel(QFileDialog& dialog, const std::string& extension) const;
-  std::vector<std::string> Pick(const std::string& title, const std::vector<std::string>& entries, bool many);
+  template <typename Form>
+  std::vector<std::string> Pick(const std::string& title, const std::vector<std::string>& entries);
 
   platform::Operations& operations_;
   std::map<std::string, SidePanel> panels_;

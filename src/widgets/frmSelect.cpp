@@ -19,10 +19,6 @@ frmSelect::frmSelect(const QStringList& entries, QWidget* parent) : QDialog(pare
   select_->setEnabled(list_->count() > 0);
 }
 
-void frmSelect::AllowMany() {
-  list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-}
-
 QStringList frmSelect::Selected() const {
   QStringList chosen;
   if (result() != Accepted) return chosen;

@@ -14,8 +14,6 @@ class frmSelect : public QDialog {
 
  public:
   explicit frmSelect(const QStringList& entries, QWidget* parent = nullptr);
-  // Lets several entries be chosen.
-  void AllowMany();
   // Empty when cancelled.
   QStringList Selected() const;
 

@@ -150,13 +150,19 @@ TEST(frmMain, StatusPanels) {
   EXPECT_NE(frame.statusBar()->currentMessage(), "");
 
   auto& bar = Find<QProgressBar>(frame, "panelProgress");
+  auto& transfer = Find<QLabel>(frame, "panelTransfer");
   station.context.progress.Set(1, 4);
   EXPECT_TRUE(bar.isVisible());
   EXPECT_EQ(bar.value() * 4, bar.maximum());
-  station.context.progress.Set(5, 0);
+  EXPECT_EQ(transfer.text(), "1 of 4 bytes") << "no rate yet";
+  station.clock.seconds += 2;
+  station.context.progress.Set(5000, 0);
   EXPECT_EQ(bar.maximum(), 0) << "the end is not known";
+  EXPECT_EQ(transfer.text(), QLocale().toString(5000) + " bytes, " + QLocale().toString(2.5) + " KB/s");
+  station.context.progress.Set(0, 0);
+  EXPECT_FALSE(transfer.isVisible()) << "work that has no bytes";
   station.context.progress.Clear();
-  EXPECT_FALSE(bar.isVisible());
+  EXPECT_FALSE(bar.isVisible() || transfer.isVisible());
 }
 
 TEST(frmMain, DroppedAndRecentFilesOpenInTheirWindows) {

@@ -14,6 +14,7 @@ WindowStation::WindowStation()
               .waitWindow = waitWindow,
               .progress = panels,
               .operations = operations,
+              .comm = comm,
               .pictures = pictures,
               .statusPanels = panels,
               .viewOptions = viewOptions,
@@ -26,6 +27,8 @@ WindowStation::WindowStation()
               .developerMode = developer} {
   clock.onWait = [this](int) {
     const platform::Operations::Scope scope(operations);
+    serial.Pump();
+    tcp.Pump();
     QCoreApplication::processEvents();
   };
 }

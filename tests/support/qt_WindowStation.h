@@ -18,11 +18,13 @@
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "fonts/GlyphCache.h"
+#include "link/modComm.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixSystemInfo.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/PictureStore.h"
 #include "support/FakeClock.h"
+#include "support/FakeLinks.h"
 #include "support/FakeLocale.h"
 #include "support/FakeProcesses.h"
 #include "support/FakePrompts.h"
@@ -97,6 +99,10 @@ class WindowStation {
   common::FileDialogs dialogs{prompts, files, folders};
   platform::PictureStore pictures{files};
   context::StatusPanels panels;
+  FakeController controller{clock};
+  FakeSerialPort serial{controller};
+  FakeTcpClient tcp{controller};
+  link::Comm comm{{files, settings, clock, prompts, waitWindow, panels, serial, tcp, abort}};
   textjob::ViewOptions viewOptions;
   textjob::TextJob job;
   textjob::PreviewState previewState;

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
@@ -82,10 +83,21 @@ TEST_F(QtPromptsTest, InputAndLists) {
   WhenAsked([](QWidget& box) { Find<QPushButton>(box, "cmdCancel").click(); });
   EXPECT_EQ(prompts_.PickOne("", entries), "");
   WhenAsked([](QWidget& box) {
+    EXPECT_EQ(box.windowTitle(), "Select File to Upload");
+    for (const char* name : {"optEditor", "optToolViewer", "optNone"}) {
+      EXPECT_FALSE(Find<QRadioButton>(box, name).isVisible());
+    }
+    EXPECT_FALSE(Find<QPushButton>(box, "cmdUpload").isEnabled());
     Find<QListWidget>(box, "List1").selectAll();
-    Find<QPushButton>(box, "cmdSelect").click();
+    Find<QPushButton>(box, "cmdUpload").click();
   });
-  EXPECT_EQ(prompts_.PickMany("Files", entries), entries);
+  EXPECT_EQ(prompts_.PickMany("", entries), entries);
+  WhenAsked([](QWidget& box) {
+    auto& list = Find<QListWidget>(box, "List1");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
+  });
+  EXPECT_EQ(prompts_.PickMany("Select File to Delete", entries), std::vector<std::string>{entries[1]});
   WhenAsked([](QWidget& box) {
     EXPECT_FALSE(Find<QPushButton>(box, "cmdSelect").isEnabled());
     box.close();
