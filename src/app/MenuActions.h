@@ -1,6 +1,8 @@
 // What the menu entries do. Each function is the event procedure of the entry of its name.
 #pragma once
 
+#include "app/FileKinds.h"
+
 namespace morvane::context {
 struct AppContext;
 }
@@ -24,6 +26,19 @@ class MenuActions {
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();
   void mnuFileExit_Click();
+  // The Download and Upload entries of all kinds of files, and Verify.
+  template <const FileKind& kind>
+  void Download_Click() {
+    Download(kind);
+  }
+  template <const FileKind& kind>
+  void Upload_Click() {
+    Upload(kind);
+  }
+  void mnuFileVerify_Click();
+  void mnuGraphicDownload_Click();
+  void mnuGraphicUpload_Click();
+  void mnuGraphicUploadLastJob_Click();
   void mnuGraphicView_Click();
   void mnuGraphicOpenLastJob_Click();
   void mnuFontView_Click();
@@ -40,6 +55,11 @@ class MenuActions {
   void JobPanel_Click();
 
  private:
+  // Runs a command of the link, unless another one runs.
+  template <typename Work>
+  void Run(Work&& work);
+  void Download(const FileKind& kind);
+  void Upload(const FileKind& kind);
   void Toggle(bool textjob::ViewOptions::*mark);
 
   const context::AppContext& context_;

@@ -18,6 +18,12 @@ bool LinkOwner::Begin() {
   return true;
 }
 
+bool LinkOwner::Free() {
+  if (state_ != State::Operation) return true;
+  prompts_.MsgBox(kLinkInUse);
+  return false;
+}
+
 bool LinkOwner::Hold(std::function<bool()> release) {
   if (state_ != State::Idle) return false;
   state_ = State::Held;

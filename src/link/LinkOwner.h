@@ -19,6 +19,8 @@ class LinkOwner {
   // Takes the link for one operation. A holder is asked to release it; otherwise, and during another
   // operation, this says kLinkInUse and returns false.
   bool Begin();
+  // False after kLinkInUse, while an operation runs: for commands that would ask their user first.
+  bool Free();
   void End() { state_ = State::Idle; }
 
   // Takes an idle link for a window; false when it is in use. `release` is asked when an operation wants

@@ -23,17 +23,24 @@ JobTransfer::JobTransfer(const TransferSources& sources) : sources_(sources) {
 }
 
 bool JobTransfer::Download() {
-  if (!sources_.document.Save()) return false;
+  if (!Save()) return false;
   if (!SendLines(false) || !SendJob(Target())) return false;
   if (WithFixture() && !SendFixture()) return false;
   return Finish("Download Complete");
 }
 
 bool JobTransfer::DownloadAndRun() {
-  if (!sources_.document.Save() || !SendLines(true)) return false;
+  if (!Save() || !SendLines(true)) return false;
   if (!WithFixture()) return SendJob(Target()) && Run(Target(), "QT7250RUN " + Target());
-  const std::string job = common::PathFileName(sources_.document.Name());
+  const std::string job = common::PathFileName(name_);
   return SendFixture() && SendJob(job) && Run(job, "QT7250RUNFIX " + fixture_ + ',' + job);
+}
+
+// Another job may be opened while this one is under way.
+bool JobTransfer::Save() {
+  if (!sources_.document.Save()) return false;
+  name_ = sources_.document.Name();
+  return true;
 }
 
 bool JobTransfer::SendLines(bool forRun) {
@@ -80,13 +87,13 @@ bool JobTransfer::SendShared(const char* mark, const char* caption, const char* 
 }
 
 std::string JobTransfer::Target() const {
-  return asTjb_ ? kPrintModeName : common::PathFileName(sources_.document.Name());
+  return asTjb_ ? kPrintModeName : common::PathFileName(name_);
 }
 
 bool JobTransfer::SendJob(const std::string& target) {
-  const std::string job = common::PathFileName(sources_.document.Name());
+  const std::string job = common::PathFileName(name_);
   ShowWait("Downloading " + job + (asTjb_ && target == kPrintModeName ? " as TJB.TJB" : ""));
-  return sources_.comm.DownloadFile(kSend + target, sources_.document.Name());
+  return sources_.comm.DownloadFile(kSend + target, name_);
 }
 
 bool JobTransfer::SendFixture() {

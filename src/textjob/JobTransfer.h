@@ -34,6 +34,7 @@ class JobTransfer {
   bool Upload();
 
  private:
+  bool Save();
   bool SendLines(bool forRun);
   bool SendLine(const TextJobLine& line, Send send);
   bool SendFile(const char* command, const std::string& name);
@@ -53,6 +54,7 @@ class JobTransfer {
   TransferSources sources_;
   bool images_ = true;
   bool asTjb_ = false;
+  std::string name_;  // the job under way
   std::string fixture_;
   SentList sent_;
 };

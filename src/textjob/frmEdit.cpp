@@ -9,6 +9,7 @@
 #include "context/StatusPanels.h"
 #include "platform/qt/QtText.h"
 #include "textjob/JobFile.h"
+#include "textjob/JobTransfer.h"
 #include "textjob/TextJob.h"
 #include "ui_frmEdit.h"
 #include "widgets/NotAvailable.h"
@@ -40,6 +41,10 @@ void frmEdit::Connect() {
   connect(ui_->cmbLine, &QListWidget::itemSelectionChanged, this, &frmEdit::cmbLine_Click);
   connect(ui_->txtComments, &QLineEdit::textEdited, this, &frmEdit::txtComments_Change);
   connect(ui_->cmdSave, &QPushButton::clicked, this, &frmEdit::cmdSave_Click);
+  connect(ui_->cmdDownload, &QPushButton::clicked, this, [this] { Transfer(&JobTransfer::Download); });
+  connect(ui_->cmdDownloadRun, &QPushButton::clicked, this,
+          [this] { Transfer(&JobTransfer::DownloadAndRun); });
+  connect(ui_->cmdUpload, &QPushButton::clicked, this, [this] { Transfer(&JobTransfer::Upload); });
   connect(ui_->CmdLockImage, &QPushButton::clicked, this, &frmEdit::CmdLockImage_Click);
   connect(ui_->pic, &widgets::CanvasView::Pressed, this, &frmEdit::pic_MouseDown);
   connect(ui_->pic, &widgets::CanvasView::MouseMoved, this, &frmEdit::pic_MouseMove);
@@ -52,8 +57,7 @@ void frmEdit::Connect() {
 }
 
 void frmEdit::MarkMissingFunctions() {
-  for (QPushButton* button : {ui_->cmdNewLine, ui_->cmdDeleteLine, ui_->cmdReorder, ui_->cmdOpenFile,
-                              ui_->cmdDownload, ui_->cmdDownloadRun, ui_->cmdUpload}) {
+  for (QPushButton* button : {ui_->cmdNewLine, ui_->cmdDeleteLine, ui_->cmdReorder, ui_->cmdOpenFile}) {
     widgets::MarkNotAvailable(*button);
   }
 }

@@ -23,6 +23,7 @@ class frmEdit;
 namespace morvane::textjob {
 
 struct ClickSearch;
+class JobTransfer;
 struct PreviewResult;
 
 class frmEdit : public QWidget {
@@ -51,6 +52,7 @@ class frmEdit : public QWidget {
   void RefreshLockButton();
   void cmbFile_Click(int index);
   void CmdLockImage_Click();
+  void Transfer(bool (JobTransfer::*what)());
   void cmbLine_Click();
   void txtComments_Change(const QString& text);
   void pic_MouseDown(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);

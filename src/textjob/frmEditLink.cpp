@@ -3,8 +3,10 @@
 #include "context/AppContext.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
+#include "textjob/JobTransfer.h"
 #include "textjob/LockImages.h"
 #include "textjob/TextJob.h"
+#include "textjob/ViewOptions.h"
 #include "textjob/frmEdit.h"
 #include "textjob/frmLockImage.h"
 #include "ui_frmEdit.h"
@@ -22,6 +24,18 @@ void frmEdit::RefreshLockButton() {
   }
   ui_->CmdLockImage->setText(caption);
   ui_->CmdLockImage->setEnabled(!isNew);
+}
+
+// Nobody edits the job while it is under way.
+void frmEdit::Transfer(bool (JobTransfer::*what)()) {
+  if (!context_.comm.Owner().Free()) return;
+  const platform::Operations::Scope scope(context_.operations, this);
+  setEnabled(false);
+  JobTransfer transfer({context_.files, context_.settings, context_.prompts, context_.waitWindow,
+                        context_.comm, context_.job, document_, context_.viewOptions.Fixture});
+  (transfer.*what)();
+  setEnabled(true);
+  if (!context_.abortTransfers) ShowJob();
 }
 
 void frmEdit::CmdLockImage_Click() {
