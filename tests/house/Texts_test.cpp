@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <map>
 #include <set>
@@ -11,20 +12,6 @@
 
 namespace morvane::house {
 namespace {
-
-using Strings = std::vector<std::string>;
-
-// What stands between the marks, every time.
-Strings Between(const std::string& text, const std::string& open, const std::string& close) {
-  Strings found;
-  for (std::size_t at = text.find(open), end; at != std::string::npos; at = text.find(open, end)) {
-    at += open.size();
-    end = std::min(text.find(close, at), text.size());
-    found.push_back(text.substr(at, end - at));
-    end = std::min(end + close.size(), text.size());
-  }
-  return found;
-}
 
 std::string Replaced(std::string text, const std::string& what, const std::string& by) {
   for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
@@ -36,15 +23,9 @@ bool IsLetter(const std::string& text, std::size_t at) {
   return at < text.size() && std::isalnum(static_cast<unsigned char>(text[at])) != 0;
 }
 
-std::string Joined(const TreeFile& file) {
-  std::string bytes;
-  for (const std::string& line : file.lines) bytes += line + '\n';
-  return bytes;
-}
-
 // The strings of a source, joined as the compiler joins them. Escapes lose their backslash.
 Strings StringsOf(const TreeFile& file) {
-  const std::string bytes = Joined(file);
+  const std::string& bytes = file.text;
   if (file.Is(".ui")) return Between(Replaced(bytes, "&amp;", "&"), "<string>", "</string>");
   Strings found;
   bool joins = false;  // only blanks since the last string
@@ -70,14 +51,12 @@ Strings StringsOf(const TreeFile& file) {
 Strings FixedParts(const std::string& text) {
   Strings parts(1);
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::size_t end = text.find('>', at);
-    const bool word =
-        text[at] == '<' && IsLetter(text, at + 1) && !std::isupper(text[at + 1]) && end < text.size();
-    if (!word && !(text[at] == '%' && IsLetter(text, at + 1))) {
-      parts.back() += text[at];
-    } else {
-      at = word ? end : at + 1;
+    const std::size_t end = text[at] == '%' ? at + 1 : text[at] == '<' ? text.find('>', at) : text.size();
+    if (end < text.size() && IsLetter(text, at + 1) && (text[at] == '%' || !std::isupper(text[at + 1]))) {
+      at = end;
       parts.emplace_back();
+    } else {
+      parts.back() += text[at];
     }
   }
   return parts;
@@ -93,14 +72,8 @@ bool IsSaidIn(const std::string& text, const std::string& string) {
     if (at == std::string::npos) return false;
     at += part.size();
   }
-  return parts.back().empty() || !IsLetter(parts.back(), parts.back().size() - 1) || !IsLetter(string, at);
+  return !IsLetter(parts.back(), parts.back().size() - 1) || !IsLetter(string, at);
 }
-
-struct Row {
-  Strings texts;
-  Strings sources;  // paths
-  Strings tests;    // "Suite.Name"
-};
 
 class Texts : public testing::Test {
  protected:
@@ -113,50 +86,39 @@ class Texts : public testing::Test {
   }
 
   void ReadRows(const TreeFile& file) {
-    for (const std::string& line : file.lines) {
+    for (const std::string& line : file.Lines()) {
       if (!line.starts_with("| `")) continue;
       std::istringstream row(Replaced(line.substr(1), "\\|", "\x01"));
-      Strings cells[3];
-      for (std::string cell; Strings & spans : cells) {
+      rows_.emplace_back();
+      for (Strings& spans : rows_.back()) {
+        std::string cell;
         std::getline(row, cell, '|');
         spans = Between(Replaced(cell, "\x01", "|"), "`", "`");
       }
-      rows_.push_back({cells[0], cells[1], cells[2]});
     }
   }
 
   // Captions count with and without their mnemonic.
   void ReadSource(const TreeFile& file) {
+    std::set<std::string>& parts = parts_[file.path];
     for (const std::string& string : StringsOf(file)) {
-      for (const std::string& part : FixedParts(string))
-        parts_[file.path].insert({part, Replaced(part, "&", "")});
+      for (const std::string& part : FixedParts(string)) parts.insert({part, Replaced(part, "&", "")});
     }
-    for (const std::string& text : Between(Joined(file), "MsgBox(\"", "\""))
+    parts.insert("");
+    for (const std::string& text : Between(file.text, "MsgBox(\"", "\""))
       boxes_.push_back(Replaced(text, "\\\\", "\\"));
   }
 
   void ReadTests(const TreeFile& file) {
+    const Strings strings = StringsOf(file);
     for (const char* head : {"\nTEST(", "\nTEST_F("}) {
-      for (const std::string& name : Between(Joined(file), head, ")")) {
-        const std::string test = Replaced(Replaced(Replaced(name, "\n", ""), " ", ""), ",", ".");
-        for (const std::string& string : StringsOf(file)) said_[test].push_back(string);
+      for (const std::string& name : Between(file.text, head, ")")) {
+        said_[Replaced(Replaced(Replaced(name, "\n", ""), " ", ""), ",", ".")] = strings;
       }
     }
   }
 
-  bool Stands(const std::string& text, const std::string& source) {
-    const Strings parts = FixedParts(text);
-    return std::all_of(parts.begin(), parts.end(), [&](const std::string& part) {
-      return part.empty() || parts_[source].count(part) > 0;
-    });
-  }
-
-  bool Says(const std::string& test, const std::string& text) {
-    const Strings& strings = said_[test];
-    return std::any_of(strings.begin(), strings.end(), [&](const auto& s) { return IsSaidIn(text, s); });
-  }
-
-  std::vector<Row> rows_;
+  std::vector<std::array<Strings, 3>> rows_;            // texts, the paths of sources, "Suite.Name" of tests
   Strings boxes_;                                       // how the texts of message boxes begin
   std::map<std::string, std::set<std::string>> parts_;  // of each source
   std::map<std::string, Strings> said_;                 // in the file of each test
@@ -165,14 +127,19 @@ class Texts : public testing::Test {
 TEST_F(Texts, StandInTheProgramAndInTheirTest) {
   ASSERT_GT(rows_.size(), 50U);
   Strings wrong;
-  for (const Row& row : rows_) {
-    if (row.sources.empty() || row.tests.empty()) wrong.push_back(row.texts[0] + " lacks its source or test");
-    for (const std::string& text : row.texts) {
-      for (const std::string& source : row.sources) {
-        if (!Stands(text, source)) wrong.push_back(source + " does not hold: " + text);
+  for (const auto& [texts, sources, tests] : rows_) {
+    if (sources.empty() || tests.empty()) wrong.push_back(texts[0] + " lacks its source or test");
+    for (const std::string& text : texts) {
+      const Strings parts = FixedParts(text);
+      for (const std::string& source : sources) {
+        const auto stands = [&](const auto& part) { return parts_[source].count(part) > 0; };
+        if (!std::all_of(parts.begin(), parts.end(), stands)) wrong.push_back(source + " lacks: " + text);
       }
-      for (const std::string& test : row.tests) {
-        if (!Says(test, text)) wrong.push_back(test + " is no test or does not say: " + text);
+      for (const std::string& test : tests) {
+        const auto says = [&](const auto& string) { return IsSaidIn(text, string); };
+        const Strings& strings = said_[test];
+        if (std::none_of(strings.begin(), strings.end(), says))
+          wrong.push_back(test + " is no test or does not say: " + text);
       }
     }
   }
@@ -181,11 +148,11 @@ TEST_F(Texts, StandInTheProgramAndInTheirTest) {
 
 TEST_F(Texts, OfEveryMessageBoxAreListed) {
   ASSERT_GT(boxes_.size(), 5U);
+  Strings listed;
+  for (const auto& row : rows_) listed.insert(listed.end(), row[0].begin(), row[0].end());
   for (const std::string& box : boxes_) {
-    EXPECT_TRUE(std::any_of(rows_.begin(), rows_.end(), [&](const Row& row) {
-      return std::any_of(row.texts.begin(), row.texts.end(),
-                         [&](const auto& t) { return t.starts_with(box); });
-    })) << box;
+    const auto begins = [&](const std::string& text) { return text.starts_with(box); };
+    EXPECT_TRUE(std::any_of(listed.begin(), listed.end(), begins)) << box;
   }
 }
 

@@ -8,55 +8,50 @@
 #include <sstream>
 
 namespace morvane::house {
-namespace {
 
-namespace fs = std::filesystem;
-
-// Folders that .gitignore names from the top ("/build/"), and the ones of the tools.
-std::set<std::string> FoldersLeftOut(const fs::path& root) {
-  std::set<std::string> folders = {".git", ".cache"};
-  std::ifstream ignored(root / ".gitignore");
-  for (std::string line; std::getline(ignored, line);) {
-    if (line.size() > 2 && line.front() == '/' && line.back() == '/') {
-      folders.insert(line.substr(1, line.size() - 2));
-    }
-  }
-  return folders;
-}
-
-std::vector<std::string> SplitLines(const std::string& bytes) {
-  std::istringstream stream(bytes);
-  std::vector<std::string> lines;
+Strings TreeFile::Lines() const {
+  std::istringstream stream(text);
+  Strings lines;
   for (std::string line; std::getline(stream, line);) lines.push_back(line);
   return lines;
 }
 
-}  // namespace
-
 std::vector<TreeFile> ReadTree() {
+  namespace fs = std::filesystem;
   const fs::path root = MORVANE_SOURCE_DIR;
-  const std::set<std::string> leftOut = FoldersLeftOut(root);
+  const auto read = [](const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  };
+  // Folders that .gitignore names from the top ("/build/"), and the ones of the tools.
+  std::set<std::string> leftOut = {".git", ".cache"};
+  for (const std::string& line : TreeFile{"", read(root / ".gitignore")}.Lines()) {
+    if (line.size() > 2 && line.front() == '/' && line.back() == '/')
+      leftOut.insert(line.substr(1, line.size() - 2));
+  }
   std::vector<TreeFile> files;
   for (auto entry = fs::recursive_directory_iterator(root); entry != fs::end(entry); ++entry) {
     const std::string path = entry->path().lexically_relative(root).generic_string();
     if (leftOut.count(path) > 0) {
       entry.disable_recursion_pending();
     } else if (entry->is_regular_file()) {
-      std::ifstream file(entry->path(), std::ios::binary);
-      const std::string bytes(std::istreambuf_iterator<char>(file), {});
-      if (bytes.find('\0') == std::string::npos) files.push_back({path, SplitLines(bytes)});
+      files.push_back({path, read(entry->path())});
+      if (files.back().text.find('\0') != std::string::npos) files.pop_back();
     }
   }
   std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
   return files;
 }
 
-std::vector<TreeFile> ReadProduct() {
-  std::vector<TreeFile> files = ReadTree();
-  std::erase_if(files, [](const TreeFile& file) {
-    return !file.IsCode() || !(file.Under("src/") || file.Under("tools/"));
-  });
-  return files;
+Strings Between(const std::string& text, const std::string& open, const std::string& close) {
+  Strings found;
+  for (std::size_t at = text.find(open), end; at != std::string::npos; at = text.find(open, end)) {
+    at += open.size();
+    end = std::min(text.find(close, at), text.size());
+    found.push_back(text.substr(at, end - at));
+    end = std::min(end + close.size(), text.size());
+  }
+  return found;
 }
 
 }  // namespace morvane::house
