@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include "app/StartSettings.h"
@@ -67,10 +68,16 @@ Program::~Program() = default;
 
 QWidget* Program::PreviewPanel(QFileDialog& dialog) {
   auto* panel = new gcode::frmPreview(context_, &dialog);
-  QObject::connect(&dialog, &QFileDialog::currentChanged, panel, [this, panel](const QString& path) {
+  const auto show = [this, panel](const QString& path) {
     const bool file = QFileInfo(path).isFile();
     panel->ShowFile(file ? files_.ProgramName(platform::PathFromQt(path)) : std::string());
-  });
+  };
+  QObject::connect(&dialog, &QFileDialog::currentChanged, panel, show);
+  // A typed name selects the file in the list without making it current.
+  if (const auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) {
+    QObject::connect(name, &QLineEdit::textEdited, panel,
+                     [&dialog, show](const QString& text) { show(dialog.directory().filePath(text)); });
+  }
   return panel;
 }
 

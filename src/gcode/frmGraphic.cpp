@@ -1,6 +1,7 @@
 #include "gcode/frmGraphic.h"
 
 #include <QButtonGroup>
+#include <QPainter>
 #include <QToolButton>
 
 #include "common/FileNames.h"
@@ -15,10 +16,23 @@ namespace {
 
 constexpr int kSwatchSize = 16;  // pixels
 
+// The swatch of the tool that is shown alone bears a dot.
 QIcon Swatch(platform::Color color) {
-  QPixmap pixmap(kSwatchSize * 2, kSwatchSize * 2);
-  pixmap.fill(platform::ToQt(color));
-  return {pixmap};
+  constexpr int kSize = kSwatchSize * 2;
+  constexpr int kLight = 128;
+  const QColor fill = platform::ToQt(color);
+  QPixmap pixmap(kSize, kSize);
+  pixmap.fill(fill);
+  QIcon icon(pixmap);
+  {
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(qGray(fill.rgb()) < kLight ? Qt::white : Qt::black);
+    painter.drawEllipse(pixmap.rect().center() + QPoint(1, 1), kSize / 4, kSize / 4);
+  }
+  icon.addPixmap(pixmap, QIcon::Normal, QIcon::On);
+  return icon;
 }
 
 }  // namespace

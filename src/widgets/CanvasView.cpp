@@ -1,5 +1,6 @@
 #include "widgets/CanvasView.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QPainter>
 #include <algorithm>
@@ -86,6 +87,7 @@ void CanvasView::ShowOther() {
     stale_ = true;
   }
   update();
+  if (underMouse()) emit MouseMoved(ToWorld(mapFromGlobal(QPointF(QCursor::pos()))));
 }
 
 void CanvasView::Render() {
