@@ -45,8 +45,8 @@ void frmPreview::chkMoves_Click() {
 void frmPreview::ShowMode() {
   const bool shown = ui_->chkPreview->isChecked();
   const bool graphic = ui_->optGraphic->isChecked();
-  ui_->pic->setVisible(shown && graphic);
-  ui_->txtGCode->setVisible(shown && !graphic);
+  ui_->pages->setVisible(shown);
+  ui_->pages->setCurrentWidget(graphic ? static_cast<QWidget*>(ui_->pic) : ui_->txtGCode);
   ui_->chkMoves->setVisible(shown && graphic);
   ui_->optGraphic->setVisible(shown);
   ui_->optGCode->setVisible(shown);
