@@ -3,8 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QRadioButton>
 #include <QMenu>
+#include <QRadioButton>
 #include <QToolButton>
 #include <map>
 

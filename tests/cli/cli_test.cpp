@@ -110,10 +110,7 @@ TEST_F(Cli, GcodeAndFonts) {
 }
 
 TEST_F(Cli, ExpansionsAndSettings) {
-  const struct {
-    const char* arguments;
-    const char* out;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"expand text '\xC3\xA9 $$DD$$/$$MM$$'", "\xC3\xA9 09/03"},
       {"expand date yyyy-mm-dd", "2026-03-09"},
       {"expand escapes '\\x41\\xE9'", "A\xC3\xA9"},
@@ -121,11 +118,10 @@ TEST_F(Cli, ExpansionsAndSettings) {
       {"settings set Settings Units '\xC2\xB5m'", ""},
       {"settings get settings UNITS", "\xC2\xB5m\n"},
       {"settings list Settings", "{\"key\":\"Units\",\"value\":\"\xC2\xB5m\"}\n"},
-      {"settings list None", ""},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Run(c.arguments), 0) << c.arguments << folder.errors;
-    EXPECT_EQ(out, c.out) << c.arguments;
+      {"settings list None", ""}};
+  for (const auto& [arguments, wanted] : cases) {
+    EXPECT_EQ(Run(arguments), 0) << arguments << folder.errors;
+    EXPECT_EQ(out, wanted) << arguments;
   }
   EXPECT_EQ(folder.Read("Morvane.ini"), "[Settings]\r\nUnits=\xB5m\r\n");
 }

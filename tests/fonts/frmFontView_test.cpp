@@ -14,10 +14,8 @@ class frmFontViewTest : public ::testing::Test {
   frmFontViewTest() {
     std::string font;
     for (int code = 1; code <= 255; ++code) {
-      std::string line = std::to_string(code) + ":";
-      if (code == 65) line = "65:0,0,1,1;1,1,0,1";
-      if (code == 66) line = "99:0,0,1,1";
-      font += line + "\r\n";
+      font += code == 65 ? "65:0,0,1,1;1,1,0,1" : code == 66 ? "99:0,0,1,1" : std::to_string(code) + ":";
+      font += "\r\n";
     }
     station.folder.Write("GOOD.fnt", font);
     station.Load();

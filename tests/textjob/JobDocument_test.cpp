@@ -31,9 +31,9 @@ TEST_F(JobDocumentTest, ANewJobAsksForItsNameAndIsReadAnew) {
   prompts_.files.push_back({"/base/NEWJOB.TJB"});
   EXPECT_TRUE(document_.Save());
   EXPECT_EQ(document_.Name(), "NEWJOB.TJB");
-  EXPECT_EQ(prompts_.requests.at(0).title, "Save File As");
-  EXPECT_EQ(prompts_.requests.at(0).filter, "TJB Files|*.TJB|All Files|*.*");
-  EXPECT_EQ(prompts_.requests.at(0).fileName, "");
+  const auto& asked = prompts_.requests.at(0);
+  EXPECT_EQ(asked.title + '+' + asked.filter + '+' + asked.fileName,
+            "Save File As+TJB Files|*.TJB|All Files|*.*+");
   EXPECT_EQ(fileSystem_.Get("/base/NEWJOB.TJB"), "COMMENT,\r\n4,1,1\r\n\r\n");
   EXPECT_EQ(job_.LineCount(), 1U) << "blank lines vanish";
   EXPECT_FALSE(job_.Dirty);

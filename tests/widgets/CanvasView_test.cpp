@@ -58,16 +58,13 @@ TEST_F(CanvasViewTest, TheWheelZoomsAtThePointerAndKeysFitAgain) {
   EXPECT_GT(view_.Zoom(), 10);
   EXPECT_EQ(CountPixels(view_, Qt::red, {1, 1, 398, 198}), 398 * 198) << "the box fills the view";
   view_.Fit();
-  struct Key {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-  };
-  for (const Key& fit : {Key{Qt::Key_F, Qt::NoModifier}, Key{Qt::Key_Home, Qt::NoModifier},
-                         Key{Qt::Key_0, Qt::ControlModifier}}) {
+  for (const auto& [key, modifier] : {std::pair{Qt::Key_F, Qt::NoModifier},
+                                      {Qt::Key_Home, Qt::NoModifier},
+                                      {Qt::Key_0, Qt::ControlModifier}}) {
     QTest::keyClick(&view_, Qt::Key_Plus);
     QTest::keyClick(&view_, Qt::Key_Left);
     EXPECT_EQ(view_.Zoom(), 1.25);
-    QTest::keyClick(&view_, fit.key, fit.modifiers);
+    QTest::keyClick(&view_, key, modifier);
     EXPECT_EQ(view_.Zoom(), 1);
     ExpectNear(view_.ToWorld({0, 0}), {0, 0});
   }

@@ -38,19 +38,14 @@ class QtPromptsTest : public ::testing::Test {
 };
 
 TEST_F(QtPromptsTest, BoxesGiveTheAnswerOfTheirButton) {
-  struct Case {
-    Buttons buttons;
-    Qt::Key key;
-    Answer answer;
-  };
-  for (const Case& c :
-       {Case{Buttons::Ok, Qt::Key_Return, Answer::Ok}, Case{Buttons::Ok, Qt::Key_Escape, Answer::Ok},
-        Case{Buttons::OkCancel, Qt::Key_Return, Answer::Ok},
-        Case{Buttons::OkCancel, Qt::Key_Escape, Answer::Cancel},
-        Case{Buttons::YesNo, Qt::Key_Return, Answer::Yes},
-        Case{Buttons::YesNo, Qt::Key_Escape, Answer::No}}) {
-    WhenAsked([&](QWidget& box) { QTest::keyClick(&box, c.key); });
-    EXPECT_EQ(prompts_.MsgBox("?", c.buttons, "Morvane"), c.answer);
+  const std::tuple<Buttons, Answer, Answer> cases[] = {{Buttons::Ok, Answer::Ok, Answer::Ok},
+                                                       {Buttons::OkCancel, Answer::Ok, Answer::Cancel},
+                                                       {Buttons::YesNo, Answer::Yes, Answer::No}};
+  for (const auto& [buttons, onReturn, onEscape] : cases) {
+    WhenAsked([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(prompts_.MsgBox("?", buttons, "Morvane"), onReturn);
+    WhenAsked([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(prompts_.MsgBox("?", buttons, "Morvane"), onEscape);
   }
   WhenAsked([](QWidget& widget) {
     auto& box = dynamic_cast<QMessageBox&>(widget);

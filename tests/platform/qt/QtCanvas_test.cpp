@@ -61,9 +61,7 @@ TEST_F(QtCanvasTest, PensAreAsWideAsToldOnEveryScreen) {
 
 TEST_F(QtCanvasTest, BoxesSideBySideLeaveNoSeam) {
   const QImage image = Paint(1, [](platform::Canvas& canvas) {
-    for (int i = 0; i < 10; ++i) {
-      canvas.Box({1 + static_cast<float>(i) * 0.37F, 1, 0.37F, 2}, kBlue, true);
-    }
+    for (int i = 0; i < 10; ++i) canvas.Box({1 + static_cast<float>(i) * 0.37F, 1, 0.37F, 2}, kBlue, true);
   });
   EXPECT_EQ(Count(image, QRect(10, 10, 37, 20), Qt::blue), 37 * 20);
   EXPECT_EQ(Count(image, image.rect(), Qt::blue), 37 * 20);
@@ -102,15 +100,11 @@ TEST_F(QtCanvasTest, CirclesTextAndLargeCirclesLieWhereTold) {
 
 TEST_F(QtCanvasTest, ManyLinesAreNoLongerSmoothed) {
   const auto slope = [](platform::Canvas& canvas) { canvas.Line({kRed, 1}, {1, 1, 9, 3}); };
-  const auto colors = [](const QImage& image) {
-    std::set<QRgb> found;
-    for (int x = 0; x < image.width(); ++x) {
-      for (int y = 0; y < image.height(); ++y) found.insert(image.pixel(x, y));
-    }
-    return found.size();
+  const auto clear = [](const QImage& image) {
+    return Count(image, image.rect(), Qt::white) + Count(image, image.rect(), Qt::red);
   };
-  EXPECT_GT(colors(Paint(1, slope, 100)), 4U);
-  EXPECT_EQ(colors(Paint(1, slope, 1)), 2U);
+  EXPECT_LT(clear(Paint(1, slope, 100)), 5000 - 20) << "with shades between";
+  EXPECT_EQ(clear(Paint(1, slope, 1)), 5000);
 }
 
 // A bitmap of 4 by 1 pixels in the run-length form: two red ones, two blue ones.
@@ -138,9 +132,8 @@ TEST_F(QtCanvasTest, PicturesAreKnownByTheirContentAndReadAnewWhenTheyChange) {
     return bytes.toStdString();
   };
   const char kGif[] = "GIF89a\1\0\1\0\200\0\0\377\0\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;";
-  const std::string files[] = {encoded("BMP"), encoded("JPG"), encoded("ICO"),
-                               std::string(kGif, sizeof kGif - 1)};
-  for (const std::string& bytes : files) {
+  for (const std::string& bytes :
+       {encoded("BMP"), encoded("JPG"), encoded("ICO"), std::string(kGif, sizeof kGif - 1)}) {
     folder_.Write("PART.WMF", bytes);  // the name lies
     const QImage image = Paint(1, [](platform::Canvas& canvas) { canvas.Image("part.wmf", {2, 1, 4, 2}); });
     const QColor inside = image.pixelColor(40, 20);
