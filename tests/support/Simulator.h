@@ -13,9 +13,16 @@
 
 namespace morvane::test {
 
+// A loopback address that no other process's test uses: the controller's port is fixed.
+inline std::string OwnAddress() {
+  const auto id = static_cast<unsigned>(getpid());
+  return "127." + std::to_string((id >> 16) % 254 + 1) + '.' + std::to_string(id >> 8 & 255) + '.' +
+         std::to_string(id & 255);
+}
+
 class Simulator {
  public:
-  // `address`: 127.0.0.N, since the port is fixed. `faults`: "split=3", "times=1", ...
+  // `address`: a loopback address, since the port is fixed. `faults`: "split=3", "times=1", ...
   explicit Simulator(const std::string& address, const std::vector<std::string>& faults = {}) {
     std::vector<std::string> words = {MORVANE_BIN_DIR "/morvane-sim",
                                       "--root",

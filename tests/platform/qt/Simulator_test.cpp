@@ -31,7 +31,7 @@ class QuickClock : public platform::Clock {
   platform::QtClock clock_;
 };
 
-constexpr const char* kAddress = "127.0.0.72";
+const std::string kAddress = test::OwnAddress();
 
 struct Host {
   Host(bool network, const Simulator& simulator) {
