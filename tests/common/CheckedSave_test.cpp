@@ -42,17 +42,6 @@ class CheckedSaveTest : public ::testing::Test {
   test::FakeFileSystem disk_;
 };
 
-TEST_F(CheckedSaveTest, ADiskThatFillsAtAnyByteKeepsTheOldFile) {
-  for (std::size_t room = 0; room < kBytes.size(); ++room) {
-    disk_.faults.bytesLeft = room;
-    EXPECT_EQ(Save(disk_, kTarget), "Disk full");
-    ExpectOldFileAlone();
-  }
-  disk_.faults.bytesLeft = kBytes.size();
-  EXPECT_EQ(Save(disk_, kTarget), "");
-  EXPECT_EQ(disk_.Get(kTarget), kBytes);
-}
-
 TEST_F(CheckedSaveTest, AFailureOfAnyStepKeepsTheOldFile) {
   using Faults = test::FakeFileSystem::Faults;
   for (Error Faults::*step : {&Faults::create, &Faults::sync, &Faults::close, &Faults::rename}) {
