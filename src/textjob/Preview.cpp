@@ -4,10 +4,10 @@
 
 #include "common/Numbers.h"
 #include "common/RunTimeError.h"
-#include "common/Tokenizer.h"
 #include "recipes/modFixture.h"
 #include "textjob/LockImages.h"
 #include "textjob/PreviewLine.h"
+#include "textjob/Selection.h"
 
 namespace morvane::textjob {
 namespace {
@@ -132,16 +132,6 @@ PreviewResult DrawJob(const PreviewSources& sources, const PreviewRequest& reque
   DrawLines(pass, request.job, state.lines, result);
   if (request.options.ToolPath) pen.PenMove(0, 0, settings.colors[kDrawColor], false);
   return result;
-}
-
-std::vector<bool> SelectedLines(const std::string& selection, std::size_t count) {
-  std::vector<bool> selected(count, false);
-  for (const std::string& token : common::SplitText(selection, ",")) {
-    const std::int32_t index = common::IsNumeric(token) ? common::ParseInt32(token) : -1;
-    if (index >= 0 && static_cast<std::size_t>(index) < count)
-      selected[static_cast<std::size_t>(index)] = true;
-  }
-  return selected;
 }
 
 }  // namespace morvane::textjob

@@ -32,7 +32,4 @@ struct PreviewResult {
 PreviewResult DrawJob(const PreviewSources& sources, const PreviewRequest& request, PreviewState& state,
                       platform::Canvas& canvas);
 
-// The indices in a selection list, below `count`.
-std::vector<bool> SelectedLines(const std::string& selection, std::size_t count);
-
 }  // namespace morvane::textjob

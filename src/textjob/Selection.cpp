@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/Numbers.h"
 #include "common/Tokenizer.h"
 
 namespace morvane::textjob {
@@ -17,6 +18,25 @@ std::string Join(const std::vector<std::string>& entries) {
 }
 
 }  // namespace
+
+std::vector<bool> SelectedLines(const std::string& selection, std::size_t count) {
+  std::vector<bool> selected(count, false);
+  for (const std::string& token : common::SplitText(selection, ",")) {
+    const std::int32_t index = common::IsNumeric(token) ? common::ParseInt32(token) : -1;
+    if (index >= 0 && static_cast<std::size_t>(index) < count)
+      selected[static_cast<std::size_t>(index)] = true;
+  }
+  return selected;
+}
+
+std::vector<std::size_t> SelectedIndices(const TextJob& job) {
+  const std::vector<bool> selected = SelectedLines(job.Selection, job.LineCount());
+  std::vector<std::size_t> indices;
+  for (std::size_t i = 0; i < selected.size(); ++i) {
+    if (selected[i]) indices.push_back(i);
+  }
+  return indices;
+}
 
 std::string SelectLines(const std::vector<int>& lines) {
   std::vector<std::string> entries;

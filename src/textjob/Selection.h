@@ -1,10 +1,18 @@
 // The selected lines of a job, as the text that TextJob keeps.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "textjob/TextJob.h"
+
 namespace morvane::textjob {
+
+// For each of `count` lines whether the list names it.
+std::vector<bool> SelectedLines(const std::string& selection, std::size_t count);
+// The selected lines of a job in the order of the job, each once.
+std::vector<std::size_t> SelectedIndices(const TextJob& job);
 
 std::string SelectLines(const std::vector<int>& lines);
 // A line in the list is taken out, another one is put at its end.

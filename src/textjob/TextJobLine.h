@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -26,6 +28,20 @@ enum LineType : std::int32_t {
   kParkPath = 15,
   kRaster = 16,
   kLineTypeCount = 17,
+};
+
+// A set of line types. A code that is no type is in none.
+class TypeSet {
+ public:
+  constexpr TypeSet(std::initializer_list<LineType> types) {
+    for (const LineType type : types) bits_ |= 1U << type;
+  }
+  constexpr bool Holds(std::int32_t type) const {
+    return type >= 0 && type < kLineTypeCount && ((bits_ >> type) & 1U) != 0;
+  }
+
+ private:
+  std::uint32_t bits_ = 0;
 };
 
 enum TextStyle : std::int32_t { kRegular = 0, kArcText = 1, kAngular = 2, kRadiusText = 3 };
@@ -68,14 +84,17 @@ struct TextJobLine {
   float Spacing = 0;  // between letters with pro fonts
 };
 
-// The word of a line type ("Normal"); empty for a code that is none.
-std::string_view LineTypeName(std::int32_t type);
-// Index of a word in a table, 0 for a word that is not in it.
-std::int32_t LineTypeIndex(std::string_view word);
-std::int32_t StyleIndex(std::string_view word);
-std::int32_t JustifyIndex(std::string_view word);
-std::int32_t LocationIndex(std::string_view word);
-std::int32_t KeepRatioIndex(std::string_view word);
+// The words of an enumeration, by their index.
+using Words = std::span<const std::string_view>;
+Words LineTypeWords();
+Words StyleWords();
+Words JustifyWords();
+Words LocationWords();
+Words KeepRatioWords();
+// Index of a word in its table, 0 for a word that is not in it.
+std::int32_t WordIndex(Words words, std::string_view word);
+// Throws "Subscript out of range" for an index beyond the table.
+std::string_view WordAt(Words words, std::int32_t index);
 
 bool IsTextLine(std::int32_t type);
 // True for the types whose `Text` is read in capitals: those that name a file, but Pressure.

@@ -1,5 +1,7 @@
 #include "textjob/TjbFields.h"
 
+#include "common/Numbers.h"
+
 namespace morvane::textjob {
 
 constexpr std::array<TjbField, kTjbFieldCount> kFields = {{
@@ -25,6 +27,30 @@ const std::array<TjbField, kTjbFieldCount> kTjbFields = kFields;
 
 namespace {
 
+// One conversion for each type of field.
+struct Convert {
+  TextJobLine& line;
+  std::string_view token;
+
+  void operator()(std::int32_t TextJobLine::*member) const { line.*member = common::ParseInt32(token); }
+  void operator()(std::int16_t TextJobLine::*member) const { line.*member = common::ParseInt16(token); }
+  void operator()(float TextJobLine::*member) const { line.*member = common::ParseSingle(token); }
+  void operator()(std::string TextJobLine::*member) const { line.*member = token; }
+};
+
+struct Write {
+  const TextJobLine& line;
+
+  std::string operator()(std::int32_t TextJobLine::*member) const {
+    return common::PlainNumber(line.*member);
+  }
+  std::string operator()(std::int16_t TextJobLine::*member) const {
+    return common::PlainNumber(std::int32_t{line.*member});
+  }
+  std::string operator()(float TextJobLine::*member) const { return common::PlainNumber(line.*member); }
+  std::string operator()(std::string TextJobLine::*member) const { return line.*member; }
+};
+
 constexpr std::array<const TjbField*, kTjbTokenCount> ByPlace() {
   std::array<const TjbField*, kTjbTokenCount> tokens = {};
   for (const TjbField& field : kFields) {
@@ -36,5 +62,13 @@ constexpr std::array<const TjbField*, kTjbTokenCount> ByPlace() {
 }  // namespace
 
 const std::array<const TjbField*, kTjbTokenCount> kTjbTokens = ByPlace();
+
+std::string MemberText(const TextJobLine& line, const TjbMember& member) {
+  return std::visit(Write{line}, member);
+}
+
+void SetMember(TextJobLine& line, const TjbMember& member, std::string_view text) {
+  std::visit(Convert{line, text}, member);
+}
 
 }  // namespace morvane::textjob

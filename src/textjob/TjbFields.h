@@ -14,6 +14,10 @@ namespace morvane::textjob {
 using TjbMember = std::variant<std::int32_t TextJobLine::*, std::int16_t TextJobLine::*, float TextJobLine::*,
                                std::string TextJobLine::*>;
 
+// The field as plain text, and from text: a bad number is 0, one beyond the field is held at its limit.
+std::string MemberText(const TextJobLine& line, const TjbMember& member);
+void SetMember(TextJobLine& line, const TjbMember& member, std::string_view text);
+
 struct TjbField {
   std::string_view name;
   TjbMember member;

@@ -12,51 +12,13 @@ namespace morvane::textjob {
 namespace {
 
 using common::FormatPicture;
-using common::ParseNumber;
-using common::PlainNumber;
 using common::RunTimeError;
 
 constexpr std::string_view kCommentPrefix = "COMMENT,";
 constexpr char kDepthSeparator = 'M';
 
-// One conversion for each type of field.
-struct Convert {
-  TextJobLine& line;
-  std::string_view token;
-
-  void operator()(std::int32_t TextJobLine::*member) const { line.*member = common::ParseInt32(token); }
-  void operator()(std::int16_t TextJobLine::*member) const { line.*member = common::ParseInt16(token); }
-  void operator()(float TextJobLine::*member) const { line.*member = common::ParseSingle(token); }
-  void operator()(std::string TextJobLine::*member) const { line.*member = token; }
-};
-
-struct Write {
-  const TextJobLine& line;
-
-  std::string operator()(std::int32_t TextJobLine::*member) const { return PlainNumber(line.*member); }
-  std::string operator()(std::int16_t TextJobLine::*member) const {
-    return PlainNumber(std::int32_t{line.*member});
-  }
-  std::string operator()(float TextJobLine::*member) const { return PlainNumber(line.*member); }
-  std::string operator()(std::string TextJobLine::*member) const { return line.*member; }
-};
-
 bool IsDepth(const TjbField& field) {
   return field.name == "Depth";
-}
-
-void ReadDepth(std::string_view token, TextJobLine& line) {
-  const std::size_t separator = token.find(kDepthSeparator);
-  line.Depth = common::ParseSingle(token.substr(0, separator));
-  if (separator == std::string_view::npos) return;
-  const std::string_view rest = token.substr(separator + 1);
-  line.Depth2 = common::ParseSingle(rest.substr(0, rest.find(kDepthSeparator)));
-}
-
-std::string WriteDepth(const TextJobLine& line, std::string_view unitsFormat) {
-  std::string depth = FormatPicture(line.Depth, unitsFormat);
-  if (line.Depth2 != 0) depth += kDepthSeparator + FormatPicture(line.Depth2, unitsFormat);
-  return depth;
 }
 
 }  // namespace
@@ -71,7 +33,7 @@ TextJobLine ParseTjbLine(std::string_view text) {
       if (IsDepth(*field)) {
         ReadDepth(token, line);
       } else {
-        std::visit(Convert{line, token}, field->member);
+        SetMember(line, field->member, token);
       }
     }
     if (atEnd) break;
@@ -93,10 +55,25 @@ TextJobLine ParseTjbLine(const TextJob& job, std::size_t index) {
 std::string FormatTjbLine(const TextJobLine& record, std::string_view unitsFormat) {
   std::string line;
   for (const TjbField* field : kTjbTokens) {
-    line += IsDepth(*field) ? WriteDepth(record, unitsFormat) : std::visit(Write{record}, field->member);
+    line += IsDepth(*field) ? DepthText(record, unitsFormat) : MemberText(record, field->member);
     if (field->place + 1 < kTjbTokenCount) line += TjbDelimiter(field->place);
   }
   return line;
+}
+
+void ReadDepth(std::string_view text, TextJobLine& line) {
+  const std::size_t separator = text.find(kDepthSeparator);
+  line.Depth = common::ParseSingle(text.substr(0, separator));
+  line.Depth2 = 0;
+  if (separator == std::string_view::npos) return;
+  const std::string_view rest = text.substr(separator + 1);
+  line.Depth2 = common::ParseSingle(rest.substr(0, rest.find(kDepthSeparator)));
+}
+
+std::string DepthText(const TextJobLine& line, std::string_view unitsFormat) {
+  std::string depth = FormatPicture(line.Depth, unitsFormat);
+  if (line.Depth2 != 0) depth += kDepthSeparator + FormatPicture(line.Depth2, unitsFormat);
+  return depth;
 }
 
 std::string FontToken(std::string_view font) {

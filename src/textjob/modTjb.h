@@ -22,6 +22,11 @@ std::string FormatTjbLine(const TextJobLine& record, std::string_view unitsForma
 // The font token of a full rewrite: the name's capitals up to its first point, and ".fnt".
 std::string FontToken(std::string_view font);
 
+// Both depths as one text, `Depth2` behind an "M" when there is one; and back again: text that begins with
+// "M" has no first depth.
+std::string DepthText(const TextJobLine& line, std::string_view unitsFormat);
+void ReadDepth(std::string_view text, TextJobLine& line);
+
 // Adds a file's lines to an empty job. Throws "Subscript out of range" at the 1002nd line; the first
 // 1001 are kept.
 void ReadTjb(std::string_view bytes, TextJob& job);

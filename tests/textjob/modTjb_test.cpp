@@ -86,21 +86,20 @@ TEST(Tjb, CorrectionsAndBadNumbers) {
 
 TEST(TjbWords, StandUnderTheirNumbers) {
   const struct {
-    std::int32_t (*index)(std::string_view);
-    std::vector<const char*> words;
+    Words table;
+    std::vector<std::string_view> words;
   } tables[] = {
-      {LineTypeIndex,
+      {LineTypeWords(),
        {"Normal", "Serial", "Graphic", "DateCode", "Move", "Panel", "Data Matrix", "Fill", "Variable",
         "Image", "Cap", "Scale", "Start Position", "Closed Path", "Pressure", "Park Path", "Raster"}},
-      {StyleIndex, {"Regular", "ArcText", "Angular", "RadiusText"}},
-      {JustifyIndex, {"Left", "Center", "Right"}},
-      {LocationIndex, {"Outside", "Inside"}},
-      {KeepRatioIndex, {"No", "Yes"}}};
-  for (const auto& [index, words] : tables) {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-      EXPECT_EQ(static_cast<std::size_t>(index(words[i])), i) << words[i];
-    }
-    EXPECT_EQ(index("none"), 0);
+      {StyleWords(), {"Regular", "ArcText", "Angular", "RadiusText"}},
+      {JustifyWords(), {"Left", "Center", "Right"}},
+      {LocationWords(), {"Outside", "Inside"}},
+      {KeepRatioWords(), {"No", "Yes"}}};
+  for (const auto& [table, words] : tables) {
+    EXPECT_EQ(std::vector<std::string_view>(table.begin(), table.end()), words);
+    EXPECT_EQ(WordIndex(table, words.back()), static_cast<std::int32_t>(words.size()) - 1);
+    EXPECT_EQ(WordIndex(table, "none"), 0);
   }
 }
 

@@ -1,0 +1,296 @@
+// The property grid: rows from lines, lines from rows, and what a commit brings with it.
+#include <gtest/gtest.h>
+
+#include "common/RunTimeError.h"
+#include "support/FakeFileSystem.h"
+#include "textjob/CommitLine.h"
+#include "textjob/RowEditors.h"
+#include "textjob/modTjb.h"
+
+namespace morvane::textjob {
+namespace {
+
+class PropertyGridTest : public ::testing::Test {
+ protected:
+  // A job of these lines with these selected.
+  void Make(const std::vector<std::string>& lines, const std::string& selection) {
+    job_.Lines = lines;
+    job_.Selection = selection;
+  }
+  std::string Show() {
+    std::string text;
+    for (const PropertyRow& row : RowsOfSelection(job_, context_)) text += row.label + '=' + row.value + '|';
+    return text;
+  }
+  // Commits a value to the row of that label.
+  void Commit(const std::string& label, const std::string& value) {
+    PropertyGrid rows = RowsOfSelection(job_, context_);
+    const std::size_t row = FindRow(rows, label);
+    ASSERT_LT(row, rows.size()) << label;
+    CommitLine(job_, rows, row, value, context_, files_);
+    EXPECT_TRUE(job_.Dirty);
+  }
+  void Put(const std::string& name, const std::string& bytes = "") {
+    fileSystem_.Put("/base/" + name, bytes);
+  }
+
+  test::FakeFileSystem fileSystem_{"/base"};
+  common::Files files_{fileSystem_, "/base"};
+  RowContext context_;
+  TextJob job_;
+};
+
+const std::string kTail = ",0,@@,0,0,0,0,0,0,0,0,0,0,0,0,0,0";
+
+TEST_F(PropertyGridTest, RowsOfEachType) {
+  const std::string place = "X pos=1.500|Y pos=2.000|";
+  const std::string tool = "Tool #=3|Depth=0.500|";
+  const std::string path = "Scale X=2.5|Scale Y=3.|Rotate=45.|";
+  const std::string text = "Font=FONT1|Height=0.125|Compress=0.75|Style=Regular|Justify=Center|";
+  // The same fields on a line of each type.
+  const std::string head = ",1.5,2,.125,font1.fnt,0,5,0,0,";
+  const std::string tail = "@@,.75,2,3,.5,1,Ask@@,2.5,3,45,0,1,2,3,4,5,1,4,.1,.2,.3";
+  const struct {
+    const char* type;
+    const char* text;
+    std::string rows;
+  } cases[] = {
+      {"0", "Text a", "Text=Text a|Type=Normal|" + text + place + tool},
+      {"1", "7", "Serial=7|Incr=5|Type=Serial|" + text + place + tool},
+      {"2", "logo.job", "Graphic=LOGO|Type=Graphic|Compress=0.75|" + place + tool},
+      {"3", "MM", "DateCode=MM|Type=DateCode|" + text + place + tool},
+      {"4", "", "Type=Move|" + place + tool},
+      {"5", "p.pan", "Panel=P|Type=Panel|" + place + tool},
+      {"6", "d.dm", "Data Matrix=D|Type=Data Matrix|" + place + tool},
+      {"7", "f.fil", "Fill=F|Type=Fill|" + place + tool},
+      {"8", "v", "Text=v|Prompt=Ask|Type=Variable|" + text + place + tool},
+      {"9", "i.job", "Image=I|Type=Image|" + path + place + tool},
+      {"10", "Cap a", "Cap=Cap a|Type=Cap|" + place + tool},
+      {"11", "Sca", "Scale=Sca|Type=Scale|" + place + tool},
+      {"12", "", "Type=Start Position|" + place + "Depth=0.500|"},
+      {"13", "c.job",
+       "Closed Path=C|Type=Closed Path|" + path + place + tool +
+           "Late Start=1.|Late End=2.|Early Shut=3.|Overlap=4.|Overlap Ht=5.|"},
+      {"14", "low.pre", "Pressure=LOW|Type=Pressure|" + place + tool},
+      {"15", "park.job", "Park Path=PARK|Type=Park Path|"},
+      {"16", "r.ras",
+       "Raster=R|Type=Raster|" + place +
+           "Keep Ratio=Yes|Width=4.000|Height=0.125|DPI Width=100|DPI "
+           "Height=1600|Margin=0.100|Backlash=0.200|" +
+           tool},
+  };
+  context_.imageSize = [](const std::string& name) {
+    return name == "R.RAS" ? std::optional(PixelSize{400, 200}) : std::nullopt;
+  };
+  for (const auto& c : cases) {
+    Make({c.type + head + c.text + tail}, "0");
+    EXPECT_EQ(Show(), c.rows);
+  }
+  // By style, with sides, with pro fonts, with a second depth.
+  const std::string font = "Text=x|Type=Normal|Font=F|Height=1.000|Compress=1.|Style=";
+  const std::string rest =
+      "X pos=0.000|Y pos=0.000|Side=2.|Width=0.250|Spacing=0.500|Tool #=1|Depth=0.000M0.500|";
+  context_.sides = true;
+  context_.proFonts = true;
+  for (const auto& [style, rows] : {std::pair{"0", "Regular|Justify=Left|"},
+                                    {"1", "ArcText|Angle=-90.5|Radius=2.000|"},
+                                    {"2", "Angular|Angle=-90.5|"},
+                                    {"3", "RadiusText|Angle=-90.5|Radius=2.000|Location=Inside|"}}) {
+    Make({std::string("0,0,0,1,F.fnt,") + style + ",0,-90.5,2,x@@,,2,,M.5,0,@@,,,,1,,,,,,,.25,,,.5"}, "0");
+    EXPECT_EQ(Show(), font + rows + rest);
+  }
+}
+
+TEST_F(PropertyGridTest, SeveralLinesShowWhatTheyShare) {
+  const std::string normal = "0,1,2,.5,A.fnt,0,0,0,0,one@@,2";
+  const std::string arc = "8,3,4,1,B.fnt,1,0,90,1,two@@,3";
+  const std::string graphic = "2,5,6,0,.fnt,0,0,0,0,L.job@@,4";
+  const std::string park = "15,0,0,0,.fnt,0,0,0,0,P.job@@";
+  const std::string placed = "X pos=1.000|Y pos=2.000|Tool #=1|Depth=0.000|";
+  Make({normal, arc, graphic, park, normal}, "2,0");
+  EXPECT_EQ(Show(), "Compress=2.|" + placed);
+  job_.Selection = "1,0,1";
+  EXPECT_EQ(Show(), "Text=one|Font=A|Height=0.500|Compress=2.|Style=Regular|" + placed);
+  job_.Selection = "0,4";
+  EXPECT_EQ(Show(),
+            "Text=one|Type=Normal|Font=A|Height=0.500|Compress=2.|Style=Regular|Justify=Left|" + placed);
+  job_.Selection = "0,3";
+  EXPECT_EQ(Show(), "");
+  job_.Selection = "";
+  EXPECT_EQ(Show(), "");
+}
+
+TEST_F(PropertyGridTest, WordsBeyondTheirTableAreAFailure) {
+  for (const char* line : {"17", "-1", "0,0,0,1,F,4", "0,0,0,1,F,-1", "0,0,0,1,F,0,0,0,0,x@@,1,1,1,0,3",
+                           "0,0,0,1,F,3,0,0,0,x@@,1,1,1,0,0,@@,,,,2", "16,,,,,,,,,r@@,,,,,,@@,,,,,,,,,,2"}) {
+    Make({"0,0,0,1,F", line}, "1");
+    EXPECT_THROW(Show(), common::RunTimeError) << line;
+    EXPECT_EQ(job_.Lines[1], line);
+  }
+}
+
+// A full rewrite keeps nothing but what has a row; a patch keeps all but its field.
+TEST_F(PropertyGridTest, OneLineIsBuiltFromItsRowsAndSeveralArePatched) {
+  const std::string closed =
+      "13,1,2,3,f.fnt,1,4,5,6,c.job@@,7,3,2,0.1M0.2,1,Ask@@,2,3,45,1,1.5,2,3,4,5,1,4,.1,.2,.3";
+  const std::string kept = "@@,7,3,2,0.100M0.200,1,Ask@@,2,3,45,1,1.5,2,3,4,5,1,4,0.1,0.2,0.3";
+  const std::string normal = "0,1,2,.5,A.fnt,0,0,0,0,one@@,2,3,4";
+  const struct {
+    std::string line;
+    bool several;
+    const char* row;
+    const char* value;
+    std::string written;
+  } cases[] = {
+      {normal, false, "Text", "a, b", "0,1,2,0.5,A.fnt,0,0,0,0,a, b@@,2,0,4,0.000" + kTail},
+      {normal, true, "Text", "a, b",
+       "0,1,2,0.5,A.FNT,0,0,0,0,a, b@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+      {normal, false, "Font", "GOTHIC", "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,0,4,0.000" + kTail},
+      {closed, true, "X pos", "-1.25abc", "13,-1.25,2,3,F.FNT,1,4,5,6,C.JOB" + kept},
+      {closed, false, "X pos", "-1.25abc",
+       "13,-1.25,2,0,.fnt,0,0,0,0,C.job@@,0,0,2,0.100M0.200,0,@@,2,3,45,0,1.5,2,3,4,5,0,0,0,0,0"},
+      {closed, true, "Closed Path", "D", "13,1,2,3,F.FNT,1,4,5,6,D.job" + kept},
+      {normal, true, "Font", "GOTHIC",
+       "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+      {"7,0,0,0,.fnt,0,0,0,0,F.fil@@", false, "Fill", "", "7,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.000" + kTail},
+      {"10,0,0,0,.fnt,0,0,0,0,A@@", false, "Cap", "big.b",
+       "10,0,0,0,.fnt,0,0,0,0,big.b@@,0,0,1,0.000" + kTail},
+      {"14,0,0,0,.fnt,0,0,0,0,A@@", false, "Pressure", "LOW",
+       "14,0,0,0,.fnt,0,0,0,0,LOW.pre@@,0,0,1,0.000" + kTail},
+      {normal, true, "Style", "Wavy",
+       "0,1,2,0.5,A.FNT,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+      {"12,0,0", false, "Depth", "M0.5", "12,0,0,0,.fnt,0,0,0,0,@@,0,0,0,0.000M0.500" + kTail},
+      {"4,0,0", false, "Depth", "0.25M", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.250" + kTail},
+      {"4,0,0", false, "Depth", "1MM2M3", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,1.000" + kTail},
+      {"4,0,0", true, "Depth", "m2", "4,0,0,0,,0,0,0,0,@@,1,1,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+      {"4,0,0,0,,0,0,0,0,@@,,,,1M2", true, "Depth", "3",
+       "4,0,0,0,,0,0,0,0,@@,1,1,1,3.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+      {"4,0,0", false, "Tool #", "99999", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,32767,0.000" + kTail},
+  };
+  for (const auto& c : cases) {
+    Make({c.line, c.line, "4,0,0"}, c.several ? "0,1" : "0");
+    Commit(c.row, c.value);
+    EXPECT_EQ(job_.Lines[0], c.written) << c.row;
+    EXPECT_EQ(job_.Lines[1], c.several ? c.written : c.line) << c.row;
+    EXPECT_EQ(job_.Lines[2], "4,0,0");
+  }
+}
+
+TEST_F(PropertyGridTest, AChangedTypeOrStyleBringsItsValues) {
+  for (const char* name : {"b.FIL", "a.fil", "Z.JOB", "LOGO.JOB", "S.RAS"}) Put(name);
+  const std::string normal = "0,1,2,.5,A.fnt,0,0,0,0,LOGO@@,2";
+  const std::string place = "1,2,0.5,A.fnt,0,";
+  const struct {
+    std::string line;
+    const char* row;
+    const char* value;
+    std::string written;
+  } cases[] = {
+      {normal, "Type", "Fill", "7," + place + "0,0,0,A.fil@@,2,0,1,0.000" + kTail},
+      {normal, "Type", "Graphic", "2," + place + "0,0,0,LOGO.job@@,2,0,1,0.000" + kTail},
+      {normal, "Type", "Panel", "5," + place + "0,0,0,@@,2,0,1,0.000" + kTail},
+      {normal, "Type", "Cap", "10," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+      {normal, "Type", "Serial", "1," + place + "1,0,0,1@@,2,0,1,0.000" + kTail},
+      {normal, "Type", "Closed Path",
+       "13," + place + "0,0,0,LOGO.job@@,2,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+      {normal, "Type", "Normal", "0," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+      {"4,1,2", "Type", "Image",
+       "9,1,2,0,.fnt,0,0,0,0,LOGO.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+      {"15,1,2,0,.fnt,0,0,0,0,Z.job@@", "Type", "Raster",
+       "16,0,0,0,.fnt,0,0,0,0,S.ras@@,0,0,0,0.000" + kTail},
+      {"9,1,2,0,.fnt,0,0,0,0,Z.job@@,,,,,,@@,2,3,45", "Type", "Closed Path",
+       "13,1,2,0,.fnt,0,0,0,0,Z.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+      {normal, "Style", "RadiusText", "0,1,2,0.5,A.fnt,3,0,90,1,LOGO@@,2,0,1,0.000" + kTail},
+      {"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "Angular",
+       "0,1,2,0.5,A.fnt,2,0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+      {"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "ArcText",
+       "0,1,2,0.5,A.fnt,1,0,45,3,LOGO@@,2,0,1,0.000" + kTail},
+  };
+  for (const auto& c : cases) {
+    Make({c.line}, "0");
+    Commit(c.row, c.value);
+    EXPECT_EQ(job_.Lines[0], c.written) << c.row << c.value;
+  }
+}
+
+TEST_F(PropertyGridTest, ARasterKeepsItsProportion) {
+  context_.imageSize = [](const std::string&) { return PixelSize{400, 200}; };
+  const auto raster = [](const char* keep, const char* width, const char* height) {
+    return std::string("16,0,0,") + height + ",.fnt,0,0,0,0,R.ras@@,0,0,1,0.000,0,@@,0,0,0,0,0,0,0,0,0," +
+           keep + ',' + width + ",0,0,0";
+  };
+  const struct {
+    std::string line;
+    const char* row;
+    const char* value;
+    std::string written;
+  } cases[] = {{raster("1", "4", "1"), "Width", "3.5", raster("1", "3.5", "1.75")},
+               {raster("1", "4", "1"), "Height", "3", raster("1", "6", "3")},
+               {raster("0", "4", "1"), "Width", "3", raster("0", "3", "1")},
+               {raster("0", "4", "1"), "Keep Ratio", "Yes", raster("1", "4", "2")},
+               {raster("1", "4", "1"), "Keep Ratio", "No", raster("0", "4", "1")}};
+  for (const auto& c : cases) {
+    Make({c.line}, "0");
+    Commit(c.row, c.value);
+    EXPECT_EQ(job_.Lines[0], c.written) << c.row;
+  }
+  job_.Dirty = false;
+  PropertyGrid rows = RowsOfSelection(job_, context_);
+  CommitLine(job_, rows, FindRow(rows, "DPI Width"), "9", context_, files_);
+  EXPECT_FALSE(job_.Dirty) << "computed";
+}
+
+TEST_F(PropertyGridTest, StepsAndMoves) {
+  const struct {
+    const char* row;
+    const char* value;
+    float step;
+    const char* sum;  // null: the row has no steps
+  } cases[] = {{"X pos", "1.500", 0.1F, "1.600"}, {"Angle", "90.", -1, "89."}, {"Compress", "x", 0.5F, "0.5"},
+               {"Depth", "1", 1, nullptr},        {"Tool #", "1", 1, nullptr}, {"Width", "1", 1, nullptr},
+               {"Side", "1", 1, nullptr},         {"Text", "1", 1, nullptr},   {"Overlap Ht", "0.", 1, "1."}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(StepValue({c.row, c.value}, c.step, context_).value_or("none"), c.sum ? c.sum : "none")
+        << c.row;
+  }
+  context_.sides = true;
+  Make({"4,1,2", "15,1,2"}, "0");
+  MoveSelection(job_, {"3.000", "4.000", "2."}, context_, files_);
+  EXPECT_EQ(job_.Lines[0], "4,3,4,0,.fnt,0,0,0,0,@@,0,2,1,0.000" + kTail);
+  job_.Selection = "1";
+  MoveSelection(job_, {"3.000", "4.000", ""}, context_, files_);
+  EXPECT_EQ(job_.Lines[1], "15,1,2") << "no row for the position";
+}
+
+TEST_F(PropertyGridTest, EditorsAndTheirChoices) {
+  for (const char* name : {"b.fil", "A.FIL", "L.JOB", "F.FNT", "D.DM", "P.PAN", "Q.PRE", "R.RAS"}) Put(name);
+  Put("Default.cap", "Cap one,50,1\r\n\r\nCap two\r\n");
+  const struct {
+    const char* label;
+    RowEditorKind kind;
+    std::vector<std::string> choices;
+  } cases[] = {{"Fill", RowEditorKind::List, {"", "A", "B"}},
+               {"Cap", RowEditorKind::List, {"", "Cap one", "Cap two"}},
+               {"Scale", RowEditorKind::List, {""}},
+               {"Pressure", RowEditorKind::List, {"", "Q"}},
+               {"Panel", RowEditorKind::List, {"", "P"}},
+               {"Data Matrix", RowEditorKind::List, {"", "D"}},
+               {"Raster", RowEditorKind::List, {"R"}},
+               {"Graphic", RowEditorKind::GcodeFile, {"L"}},
+               {"Park Path", RowEditorKind::GcodeFile, {"L"}},
+               {"Font", RowEditorKind::List, {"F"}},
+               {"Justify", RowEditorKind::List, {"Left", "Center", "Right"}},
+               {"Keep Ratio", RowEditorKind::List, {"No", "Yes"}},
+               {"DPI Height", RowEditorKind::None, {}},
+               {"Text", RowEditorKind::Text, {}},
+               {"X pos", RowEditorKind::Text, {}}};
+  for (const auto& c : cases) {
+    const RowEditor editor = RowEditorOf(c.label, files_);
+    EXPECT_EQ(editor.kind, c.kind) << c.label;
+    EXPECT_EQ(editor.choices, c.choices) << c.label;
+  }
+  EXPECT_EQ(RowEditorOf("Type", files_).choices.size(), 17U);
+}
+
+}  // namespace
+}  // namespace morvane::textjob
