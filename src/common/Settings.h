@@ -31,6 +31,8 @@ struct SettingChange {
   std::string key;
   std::string value;
   bool remove = false;
+
+  bool operator==(const SettingChange&) const = default;
 };
 
 class Settings {

@@ -15,6 +15,8 @@ struct LockRecord {
   float Y = 0;
   float Width = 0;
   float Height = 0;
+
+  bool operator==(const LockRecord&) const = default;
 };
 
 // `record.Job` is in. True when the job has a line, and the other fields are filled; jobs compare by file
