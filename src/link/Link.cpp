@@ -82,10 +82,11 @@ bool Link::ConnectTcp(const std::string& address, bool showMessage) {
   bytesRemaining_ = 0;
   sources_.tcp.Connect(address, kTcpPort);
   const std::int64_t start = Now();
-  while (!Aborted() && Now() - start <= kConnectSeconds) {
+  // The look comes before the time: a window that the user opened may have held up the loop.
+  for (bool late = false; !Aborted() && !late; sources_.clock.Sleep(kPoll)) {
+    late = Now() - start > kConnectSeconds;
     sources_.clock.DoEvents();
     if (sources_.tcp.State() == platform::TcpState::Connected) return true;
-    sources_.clock.Sleep(kPoll);
   }
   if (showMessage && !Aborted()) {
     sources_.prompts.MsgBox("Timeout waiting for controller IP=" + address + "\r\n", platform::Buttons::Ok,
@@ -154,7 +155,8 @@ bool Link::RS232ComCheck(int comPort) {
   SendSerial(kCheckCommand);
   bool answered = false;
   std::int64_t last = Now();
-  while (!answered && !Aborted() && Now() - last <= kCheckSeconds) {
+  for (bool late = false; !answered && !Aborted() && !late;) {
+    late = Now() - last > kCheckSeconds;
     sources_.clock.Sleep(kPoll);
     CheckSerial();
     for (std::string line = TakeLine(); !line.empty() && !answered; line = TakeLine()) {

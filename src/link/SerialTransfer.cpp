@@ -30,12 +30,11 @@ bool StoreReply(Link& link, ReplyFile& file, const SerialReply& reply, bool& tim
     link.Sources().clock.DoEvents();
     if (link.Aborted()) return false;
     link.CheckSerial();
-    if (link.Now() - last > reply.timeout) {
-      timedOut = true;
-      return false;
-    }
+    // What has come counts, however late this looks: a window of the user may have held up the loop.
     std::string line = link.TakeLine();
     if (line.empty()) {
+      timedOut = link.Now() - last > reply.timeout;
+      if (timedOut) return false;
       link.Sources().clock.Sleep(kPoll);
       continue;
     }

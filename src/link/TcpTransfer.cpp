@@ -41,12 +41,13 @@ bool StoreReply(Link& link, ReplyFile& file, int timeout, bool& timedOut) {
     link.Sources().clock.DoEvents();
     link.Sources().clock.Sleep(kReplyPause);
     if (link.Aborted()) return false;
-    if (link.Now() - last > timeout) {
-      timedOut = true;
-      return false;
-    }
+    // What has come counts, however late this looks: a window of the user may have held up the loop.
     const std::string chunk = link.TakeChunk();
-    if (chunk.empty()) continue;
+    if (chunk.empty()) {
+      timedOut = link.Now() - last > timeout;
+      if (timedOut) return false;
+      continue;
+    }
     last = link.Now();
     // One chunk at a time: a marker that is split by the chunking is not seen.
     const std::size_t end = chunk.find(kReplyEnd);

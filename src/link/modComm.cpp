@@ -22,7 +22,11 @@ std::string EndMarker(const std::string& localPath) {
 // the operation's name.
 template <typename Work>
 bool Comm::Run(const char* serialName, const char* tcpName, Work&& work) {
-  if (sources_.abort || !owner_.Begin()) return false;
+  if (sources_.abort || !owner_.Begin()) {
+    // Nobody else takes the window away, but for an operation that runs.
+    if (owner_.Now() != LinkOwner::State::Operation) sources_.waitWindow.Close();
+    return false;
+  }
   const LinkSettings settings = ReadLinkSettings(sources_.settings);
   bool done = false;
   std::string failure;
@@ -34,8 +38,9 @@ bool Comm::Run(const char* serialName, const char* tcpName, Work&& work) {
   link_.Drop();
   owner_.End();
   sources_.progress.Clear();
-  // Over TCP the operation itself takes the wait window away.
-  if (settings.IsTcp() || !failure.empty()) sources_.waitWindow.Close();
+  // Over TCP the operation itself takes the wait window away; on the serial line its caller does, unless
+  // the operation broke off.
+  if (settings.IsTcp() || !failure.empty() || sources_.abort) sources_.waitWindow.Close();
   if (!failure.empty() && !sources_.abort) sources_.prompts.MsgBox(failure);
   return done;
 }

@@ -120,6 +120,10 @@ const Fault kFaults[] = {
      {1, 2, 3, 6, 12, 40},
      [](Cell& c) { Later(c, [](LinkStation& s) { EXPECT_FALSE(s.comm.SendCommand("REBOOT")); }); },
      {"Morvane: The link to the machine is in use"}},
+    {"a window of the user that holds up the loop",
+     {1, 2, 3, 6, 12, 40},
+     [](Cell& c) { Later(c, [](LinkStation& s) { s.clock.seconds += 30; }); },
+     {}},
     {"nobody there",
      {1},
      [](Cell& c) {
@@ -168,6 +172,8 @@ void Check(const Operation& operation, bool network, const Fault& fault, Cell& c
   EXPECT_FALSE(station.serial.IsOpen());
   EXPECT_EQ(station.tcp.State(), platform::TcpState::Closed);
   EXPECT_EQ(station.comm.Owner().Now(), LinkOwner::State::Idle);
+  // Left to the caller only where the serial line did nothing wrong, or nothing is to be said.
+  EXPECT_FALSE(station.waitWindow.shown && (network || station.abort || (!done && operation.tellsSilence)));
   EXPECT_LE(station.comm.Open().Buffer().Size(), kCommBufferSize);
   EXPECT_EQ(Names(station, "/base"), (std::vector<std::string>{"A.JOB", "A.TXT", "Morvane.ini", "Temp"}));
   EXPECT_EQ(Names(station, "/tmp"), (std::vector<std::string>{"run.ret"}));
@@ -201,6 +207,7 @@ TEST(FaultMatrix, EveryFaultAtEveryPlaceOfEveryOperation) {
           Heal(station);
           Cell cell{station, place};
           fault.inflict(cell);
+          station.waitWindow.Show(operation.name);
           Check(operation, network, fault, cell, operation.run(station.comm));
           ++cells;
         }

@@ -147,7 +147,9 @@ TEST(LinkOwner, HasOneUserAtATime) {
   bool yields = false;
   EXPECT_TRUE(owner.Hold([&] { return ++asked, yields; }));
   EXPECT_FALSE(owner.Hold([] { return true; }));
+  station.waitWindow.Show("THREE");
   EXPECT_FALSE(station.comm.SendCommand("THREE"));
+  EXPECT_FALSE(station.waitWindow.shown);
   EXPECT_EQ(owner.Now(), LinkOwner::State::Held);
   yields = true;
   EXPECT_TRUE(station.comm.SendCommand("FOUR"));
