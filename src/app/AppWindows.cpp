@@ -28,6 +28,11 @@ T* Form(const QPointer<MdiChild>& child) {
   return qobject_cast<T*>(child->widget());
 }
 
+// The extension in capitals.
+QString Kind(const std::string& path) {
+  return QFileInfo(platform::PathToQt(path)).suffix().toUpper();
+}
+
 }  // namespace
 
 QWidget* AppWindows::MainWindow() {
@@ -61,9 +66,15 @@ void AppWindows::Refresh() {
   frame_->Refresh();
 }
 
+void AppWindows::ViewGraphic(const std::string& path) {
+  // The list of recent files opens by kind.
+  if (Kind(path) == "JOB") return OpenFile(path);
+  OpenGraphicViewer(context_.files.ProgramName(path));
+}
+
 void AppWindows::OpenFile(const std::string& path) {
   const std::string name = context_.files.ProgramName(path);
-  const QString kind = QFileInfo(platform::PathToQt(path)).suffix().toUpper();
+  const QString kind = Kind(path);
   if (kind == "TJB") {
     OpenJob(name);
   } else if (kind == "JOB") {

@@ -40,6 +40,8 @@ class AppWindows : public widgets::Windows {
   void ShowFontView(const std::string& name = "");
   // Opens a file of a known kind (native path) in its window; tells when the kind is not known.
   void OpenFile(const std::string& path);
+  // Opens a file that is taken for a G-code job, whatever its kind (native path).
+  void ViewGraphic(const std::string& path);
   // Opens a job (program name) in the editor, once a changed one there is settled.
   void OpenJob(const std::string& name);
   // A job whose redraw came while another window was active is drawn when its editor comes forward.

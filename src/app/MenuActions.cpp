@@ -42,7 +42,7 @@ void MenuActions::mnuFileExit_Click() {
 
 void MenuActions::mnuGraphicView_Click() {
   const std::string name = context_.fileDialogs.OpenFileDialog("Job Files|*.JOB|All Files|*.*", "job");
-  if (!name.empty()) windows_.OpenGraphicViewer(name);
+  if (!name.empty()) windows_.ViewGraphic(context_.files.Resolve(name));
 }
 
 void MenuActions::mnuGraphicOpenLastJob_Click() {

@@ -4,9 +4,9 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
-#include <QMenuBar>
 
 #include "app/AppWindows.h"
+#include "app/FittedMenuBar.h"
 #include "app/MainStatusBar.h"
 #include "app/MdiChild.h"
 #include "app/MenuActions.h"
@@ -34,6 +34,7 @@ frmMain::frmMain(const context::AppContext& context, AppWindows& windows)
   area_->setBackground(palette().brush(QPalette::Dark));
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setCentralWidget(area_);
+  setMenuBar(new FittedMenuBar(this));
   BuildMenus(*menuBar(), *actions_);
   BuildRecentFiles();
   BuildWindowList();

@@ -24,12 +24,27 @@
 namespace morvane::app {
 namespace {
 
-// A window that lies on no screen (one that has been unplugged) comes up on the first one.
-QRect OnScreen(QRect place) {
+constexpr int kTitleBar = 40;  // pixels at the top by which a window can be taken
+
+// The screen that shows the window's top; null when none does.
+const QScreen* ScreenOf(const QRect& place) {
+  const QRect top = place.adjusted(0, 0, 0, kTitleBar - place.height());
   for (const QScreen* screen : QGuiApplication::screens()) {
-    if (screen->availableGeometry().intersects(place.adjusted(0, 0, 0, 40 - place.height()))) return place;
+    if (screen->availableGeometry().intersects(top)) return screen;
   }
-  place.moveTo(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+  return nullptr;
+}
+
+// A window that lies on no screen (one that has been unplugged) comes up on the first one, and one that is
+// larger than its screen (as one that was replaced) fills it.
+QRect OnScreen(QRect place) {
+  const QScreen* screen = ScreenOf(place);
+  const QRect room = (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+  if (screen == nullptr) place.moveTo(room.topLeft());
+  const QSize size = place.size().boundedTo(room.size()).expandedTo(ToPixels(MainGeometry()).size());
+  if (size.width() != place.width()) place.moveLeft(room.left());
+  if (size.height() != place.height()) place.moveTop(room.top());
+  place.setSize(size);
   return place;
 }
 

@@ -35,7 +35,8 @@ TEST(frmMain, GeometryIsInTwipsAndHeldAtItsLeast) {
     QRect pixels;
   };
   const Case cases[] = {{"", "", "", "", {67, 67, 1000, 534}},
-                        {"1500", "900.4", "18000", "9000", {100, 60, 1200, 600}},
+                        {"1500", "900.4", "15000", "9000", {100, 60, 1000, 600}},
+                        {"1500", "900.4", "18000", "15000", {0, 0, 1000, 800}},  // the screen is 800 x 800
                         {"15", "15", "300", "20", {1, 1, 1000, 534}},
                         {"-900", "0", "15000", "8000", {-60, 0, 1000, 534}}};
   for (const Case& c : cases) {
@@ -51,6 +52,28 @@ TEST(frmMain, GeometryIsInTwipsAndHeldAtItsLeast) {
     EXPECT_EQ(frame.size(), QSize(1000, 534)) << "springs back";
     EXPECT_TRUE(station.prompts.boxes.empty());
   }
+}
+
+TEST(frmMain, AllMenusFitAtTheLeastWidth) {
+  WindowStation station;
+  station.Set("EnableProduction", "1");
+  QMenuBar& bar = *station.Load().menuBar();
+  const auto fits = [&bar] {
+    const QList<QAction*> menus = bar.actions();
+    return std::all_of(menus.begin(), menus.end(), [&bar](QAction* menu) {
+      return menu->isVisible() && bar.rect().contains(bar.actionGeometry(menu));
+    });
+  };
+  const QFont usual = QApplication::font(&bar);
+  EXPECT_TRUE(fits());
+  QFont large = usual;
+  large.setPointSizeF(usual.pointSizeF() * 1.2);
+  QApplication::setFont(large, "QMenuBar");
+  EXPECT_TRUE(fits());
+  QApplication::setFont(usual, "QMenuBar");
+  station.Frame().resize(2000, 600);
+  EXPECT_TRUE(fits());
+  EXPECT_EQ(bar.font(), usual) << "smaller only while there is no room";
 }
 
 TEST(frmMain, BadGeometryIsReportedAndTheDefaultsStand) {
@@ -180,16 +203,19 @@ TEST(frmMain, DroppedAndRecentFilesOpenInTheirWindows) {
   EXPECT_EQ(Find<QToolButton>(frame, "panelJob").text(), "A.TJB");
   EXPECT_EQ(Find<QLineEdit>(station.Active<fonts::frmFontView>(), "txtJob").text(), "C.fnt");
   EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 1);
+  station.prompts.files = {{station.folder / "B.job"}, {station.folder / "A.XYZ"}};
+  for (int i = 0; i < 2; ++i) station.Entry("mnuGraphicView").trigger();
+  EXPECT_EQ(station.Active<gcode::frmGraphic>().windowTitle(), "Job Viewer - A.XYZ");
 
   auto& file = Find<QMenu>(frame, "mnuFile");
   emit file.aboutToShow();
   const QList<QAction*> recent = Find<QMenu>(frame, "mnuFileRecent").actions();
   QStringList names;
   for (const QAction* action : recent) names << action->text();
-  EXPECT_EQ(names, QStringList({"&1 C.fnt", "&2 B.job", "&3 A.TJB"}));
-  recent[1]->trigger();
+  EXPECT_EQ(names, QStringList({"&1 B.job", "&2 C.fnt", "&3 A.TJB"}));
+  recent[0]->trigger();
   EXPECT_EQ(station.Active<gcode::frmGraphic>().windowTitle(), "Job Viewer - B.job");
-  EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 2) << "a viewer is new for each opening";
+  EXPECT_EQ(frame.findChildren<gcode::frmGraphic*>().size(), 4) << "a viewer is new for each opening";
 }
 
 TEST(frmMain, OpenWindowsAreListedAndComeToTheFront) {
