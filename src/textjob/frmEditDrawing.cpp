@@ -91,9 +91,11 @@ void frmEdit::ShowLegend() {
                                                       {ui_->labGridColor, kGridColor},
                                                       {ui_->labRefColor, kReferenceColor}};
   for (const auto& [label, color] : entries) {
-    QPixmap swatch(label->minimumSize());
-    swatch.fill(platform::ToQt(settings.colors[color]));
-    label->setPixmap(swatch);
+    // As a background: a picture would lose its colour while the form is disabled.
+    QPalette palette;
+    palette.setColor(QPalette::Window, platform::ToQt(settings.colors[color]));
+    label->setAutoFillBackground(true);
+    label->setPalette(palette);
   }
 }
 

@@ -1,5 +1,4 @@
 // The file dialogs of QtPrompts.
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -44,7 +43,7 @@ void QtPrompts::AddSidePanel(QFileDialog& dialog, const std::string& extension) 
 }
 
 std::string QtPrompts::OpenFile(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(Owner());
   AddSidePanel(dialog, request.defaultExtension);
   Prepare(dialog, request);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -53,7 +52,7 @@ std::string QtPrompts::OpenFile(const FileDialogRequest& request) {
 }
 
 std::string QtPrompts::SaveFile(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(Owner());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   Prepare(dialog, request);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -62,7 +61,7 @@ std::string QtPrompts::SaveFile(const FileDialogRequest& request) {
 }
 
 std::vector<std::string> QtPrompts::OpenFiles(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(Owner());
   Prepare(dialog, request);
   dialog.setFileMode(QFileDialog::ExistingFiles);
   std::vector<std::string> paths;
@@ -72,7 +71,7 @@ std::vector<std::string> QtPrompts::OpenFiles(const FileDialogRequest& request) 
 }
 
 std::string QtPrompts::ChooseFolder(const std::string& title, const std::string& directory) {
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(title), PathToQt(directory));
+  QFileDialog dialog(Owner(), ToQt(title), PathToQt(directory));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (Exec(dialog) != QDialog::Accepted) return {};

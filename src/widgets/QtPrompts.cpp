@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QInputDialog>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
 #include "widgets/frmSelect.h"
 #include "widgets/frmUploadFiles.h"
+#include "widgets/frmWait.h"
 
 namespace morvane::widgets {
 
@@ -45,13 +48,26 @@ Answer ToAnswer(int button) {
 
 }  // namespace
 
+// The wait window goes while a box may still stand, and takes with it whatever it owns; where it has just
+// gone, no window is active.
+QWidget* QtPrompts::Owner() {
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && qobject_cast<frmWait*>(active) == nullptr) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto frame = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && qobject_cast<const QMainWindow*>(window) != nullptr;
+  });
+  return frame == windows.end() ? nullptr : *frame;
+}
+
 int QtPrompts::Exec(QDialog& dialog) {
   const platform::Operations::Scope scope(operations_);
   return dialog.exec();
 }
 
 Answer QtPrompts::MsgBox(const std::string& text, Buttons buttons, const std::string& title) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(Owner());
   box.setWindowTitle(ToQt(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text));
@@ -66,7 +82,7 @@ Answer QtPrompts::MsgBox(const std::string& text, Buttons buttons, const std::st
 
 std::optional<std::string> QtPrompts::InputBox(const std::string& prompt, const std::string& title,
                                                const std::string& preset) {
-  QInputDialog dialog(QApplication::activeWindow());
+  QInputDialog dialog(Owner());
   dialog.setWindowTitle(ToQt(title));
   dialog.setLabelText(ToQt(prompt));
   dialog.setTextValue(ToQt(preset));
@@ -75,8 +91,7 @@ std::optional<std::string> QtPrompts::InputBox(const std::string& prompt, const 
 }
 
 std::optional<std::uint32_t> QtPrompts::ChooseColor(std::uint32_t preset) {
-  QColorDialog dialog(QColor(preset & 255, preset >> 8 & 255, preset >> 16 & 255),
-                      QApplication::activeWindow());
+  QColorDialog dialog(QColor(preset & 255, preset >> 8 & 255, preset >> 16 & 255), Owner());
   if (Exec(dialog) != QDialog::Accepted) return std::nullopt;
   const QColor color = dialog.selectedColor();
   return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
@@ -86,7 +101,7 @@ template <typename Form>
 std::vector<std::string> QtPrompts::Pick(const std::string& title, const std::vector<std::string>& entries) {
   QStringList texts;
   for (const std::string& entry : entries) texts.push_back(ToQt(entry));
-  Form dialog(texts, QApplication::activeWindow());
+  Form dialog(texts, Owner());
   if (!title.empty()) dialog.setWindowTitle(ToQt(title));
   Exec(dialog);
   std::vector<std::string> chosen;

@@ -39,6 +39,8 @@ class QtPrompts : public platform::Prompts {
                                     const std::vector<std::string>& entries) override;
 
  private:
+  // The window that a dialog stands over; null before there is one.
+  static QWidget* Owner();
   int Exec(QDialog& dialog);
   void Prepare(QFileDialog& dialog, const platform::FileDialogRequest& request) const;
   void AddSidePanel(QFileDialog& dialog, const std::string& extension) const;
