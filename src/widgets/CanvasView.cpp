@@ -87,7 +87,10 @@ void CanvasView::ShowOther() {
     stale_ = true;
   }
   update();
-  if (underMouse()) emit MouseMoved(ToWorld(mapFromGlobal(QPointF(QCursor::pos()))));
+  if (!underMouse()) return;
+  const QPointF mouse = mapFromGlobal(QPointF(QCursor::pos()));
+  if (drag_) Span(mouse);
+  emit MouseMoved(ToWorld(mouse));
 }
 
 void CanvasView::Render() {

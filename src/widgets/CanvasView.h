@@ -8,8 +8,11 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "platform/Canvas.h"
+
+class QRubberBand;
 
 namespace morvane::platform {
 class PictureStore;
@@ -36,6 +39,9 @@ class CanvasView : public QWidget {
   void SetBackground(const QColor& color);
   // Zoom and place stay as they are.
   void SetDrawing(Drawing drawing);
+  // With it, dragging with the left button spans a rectangle. Without it, which is the default, the left
+  // button tells its press at once.
+  void SetRubberBand(bool on) { rubberBand_ = on; }
 
   // What the widget shows now, and what it would show without zoom.
   platform::CanvasView View() const;
@@ -55,7 +61,10 @@ class CanvasView : public QWidget {
  signals:
   void MouseMoved(const QPointF& world);
   void MouseLeft();
+  // With a rubber band, the left button tells only a click, when it is released.
   void Pressed(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+  // A rectangle was spanned; Escape and any other button give it up without this.
+  void RubberBand(const QRectF& world, Qt::KeyboardModifiers modifiers);
   void DoubleClicked(const QPointF& world);
   // The widget has another shape, so the drawing may want another fit.
   void Resized();
@@ -71,8 +80,20 @@ class CanvasView : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
+  // The left button, from its press to its release.
+  struct Drag {
+    QPointF from;        // on the widget
+    QPointF world;       // the same point, kept while the view moves
+    bool moved = false;  // so far that it is no click
+  };
+
+  void Span(const QPointF& to);
+  void EndDrag();
+  void Release(const QPointF& position, Qt::KeyboardModifiers modifiers);
   void ShowOther();
   void Render();
   bool PaintsSlowly() const;
@@ -91,6 +112,9 @@ class CanvasView : public QWidget {
   QTimer repaint_;        // paints after a slow drawing was moved
   bool panning_ = false;
   QPointF panFrom_;
+  bool rubberBand_ = false;
+  std::optional<Drag> drag_;
+  QRubberBand* band_ = nullptr;  // made for the first drag
 };
 
 }  // namespace morvane::widgets

@@ -1,6 +1,8 @@
 // Mouse and keys of the canvas view.
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRubberBand>
 #include <cmath>
 
 #include "widgets/CanvasView.h"
@@ -27,6 +29,11 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
     setCursor(Qt::ClosedHandCursor);
     return;
   }
+  if (drag_ && event->button() != Qt::LeftButton) return EndDrag();
+  if (rubberBand_ && event->button() == Qt::LeftButton) {
+    drag_ = {event->position(), ToWorld(event->position())};
+    return;
+  }
   emit Pressed(ToWorld(event->position()), event->button(), event->modifiers());
 }
 
@@ -35,13 +42,54 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     Pan(event->position() - panFrom_);
     panFrom_ = event->position();
   }
+  if (drag_) Span(event->position());
   emit MouseMoved(ToWorld(event->position()));
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && drag_) Release(event->position(), event->modifiers());
   if (event->button() != Qt::MiddleButton) return;
   panning_ = false;
   unsetCursor();
+}
+
+void CanvasView::Span(const QPointF& to) {
+  drag_->moved |= (to - drag_->from).manhattanLength() >= QApplication::startDragDistance();
+  if (!drag_->moved) return;
+  if (band_ == nullptr) band_ = new QRubberBand(QRubberBand::Rectangle, this);
+  band_->setGeometry(QRectF(FromWorld(drag_->world), to).normalized().toAlignedRect());
+  band_->show();
+}
+
+void CanvasView::EndDrag() {
+  drag_.reset();
+  if (band_ != nullptr) band_->hide();
+}
+
+// The button's owner may do long work, so the drag is over before it is told.
+void CanvasView::Release(const QPointF& position, Qt::KeyboardModifiers modifiers) {
+  Span(position);
+  const Drag drag = *drag_;
+  EndDrag();
+  if (drag.moved) {
+    emit RubberBand(QRectF(drag.world, ToWorld(position)).normalized(), modifiers);
+  } else {
+    emit Pressed(drag.world, Qt::LeftButton, modifiers);
+  }
+}
+
+// A window that comes in between takes the release with it.
+void CanvasView::focusOutEvent(QFocusEvent* event) {
+  EndDrag();
+  QWidget::focusOutEvent(event);
+}
+
+// While a rectangle is spanned, Escape is nobody else's.
+bool CanvasView::event(QEvent* event) {
+  const bool escape =
+      event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+  if (escape && drag_) event->accept();
+  return QWidget::event(event);
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -54,6 +102,9 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
   const double stepY = height() * kPanPart;
   const bool control = event->modifiers().testFlag(Qt::ControlModifier);
   switch (event->key()) {
+    case Qt::Key_Escape:
+      if (drag_) return EndDrag();
+      break;
     case Qt::Key_Left:
       return Pan({stepX, 0});
     case Qt::Key_Right:

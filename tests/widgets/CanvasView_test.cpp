@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QRubberBand>
 #include <QTest>
+#include <utility>
 
 #include "common/Files.h"
 #include "platform/posix/PosixFileSystem.h"
@@ -108,6 +110,58 @@ TEST_F(CanvasViewTest, ClicksAndMovesAreToldInTheWorld) {
   ASSERT_EQ(clicks.size(), 2U);
   ExpectNear(clicks[0].first, {1, 1});
   EXPECT_EQ(clicks[1].second, Qt::RightButton);
+}
+
+TEST_F(CanvasViewTest, ADragSpansARectangleAndAClickStaysAClick) {
+  view_.SetRubberBand(true);
+  QStringList told;
+  QObject::connect(&view_, &widgets::CanvasView::Pressed, [&](const QPointF& at, Qt::MouseButton button) {
+    told << QString("press %1 at %2,%3").arg(button).arg(at.x()).arg(at.y());
+  });
+  QObject::connect(
+      &view_, &widgets::CanvasView::RubberBand, [&](const QRectF& world, Qt::KeyboardModifiers modifiers) {
+        told << QString("%1,%2 %3x%4").arg(world.x()).arg(world.y()).arg(world.width()).arg(world.height()) +
+                    (modifiers.testFlag(Qt::ControlModifier) ? " ctrl" : "");
+      });
+  const auto bands = [&] { return view_.findChildren<QRubberBand*>(); };
+  const auto drag = [&](const QPoint& from, const QPoint& to) {
+    QTest::mousePress(&view_, Qt::LeftButton, {}, from);
+    EXPECT_EQ(told, QStringList()) << "it may become a drag";
+    QTest::mouseMove(&view_, to);
+  };
+  const auto release = [&](const QPoint& at, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mouseRelease(&view_, Qt::LeftButton, modifiers, at);
+    EXPECT_TRUE(bands().isEmpty() || bands()[0]->isHidden());
+    return std::exchange(told, {});
+  };
+  drag({50, 50}, {52, 51});
+  EXPECT_EQ(release({52, 51}), QStringList("press 1 at 1,1"));
+  drag({200, 150}, {100, 100});
+  EXPECT_EQ(bands().at(0)->geometry(), QRect(100, 100, 100, 50));
+  EXPECT_EQ(release({100, 100}, Qt::ControlModifier), QStringList("2,2 2x1 ctrl"));
+  // The first corner stays on its point of the drawing.
+  drag({200, 100}, {250, 100});
+  QTest::keyClick(&view_, Qt::Key_Right);
+  EXPECT_EQ(release({200, 200}), QStringList("4,2 0.8x2"));
+  view_.Fit();
+  // Three ways to give it up.
+  const std::function<void()> ways[] = {[&] { QTest::keyClick(&view_, Qt::Key_Escape); },
+                                        [&] {
+                                          QTest::mouseClick(&view_, Qt::RightButton, {}, {9, 9});
+                                        },
+                                        [&] { view_.clearFocus(); }};
+  for (const auto& way : ways) {
+    drag({0, 0}, {90, 90});
+    way();
+    EXPECT_EQ(release({90, 90}), QStringList());
+    view_.setFocus();
+  }
+  QTest::mousePress(&view_, Qt::RightButton, {}, {100, 50});
+  EXPECT_EQ(std::exchange(told, {}), QStringList("press 2 at 2,1")) << "at once";
+  QTest::mouseClick(&view_, Qt::LeftButton, {}, {50, 50});
+  QTest::mouseDClick(&view_, Qt::LeftButton, {}, {50, 50});
+  QTest::mouseRelease(&view_, Qt::LeftButton, {}, {50, 50});
+  EXPECT_EQ(told, QStringList("press 1 at 1,1")) << "a double click is one press";
 }
 
 TEST_F(CanvasViewTest, OnlyAChangeIsPaintedAnew) {
