@@ -54,8 +54,8 @@ bool IsJobLine(std::string_view text) {
   bool atEnd = false;
   const std::string_view type = scan.Next(",", atEnd);
   if (type.size() == text.size() || !common::IsNumeric(type)) return false;
-  const double number = common::ParseNumber(type);
-  if (number != common::ParseInt32(type) || LineTypeName(common::ParseInt32(type)).empty()) return false;
+  const std::int32_t code = common::ParseInt32(type);
+  if (common::ParseNumber(type) != code || code < 0 || code >= kLineTypeCount) return false;
   const auto isPlace = [](std::string_view token) { return token.empty() || common::IsNumeric(token); };
   return isPlace(scan.Next(",", atEnd)) && isPlace(scan.Next(",", atEnd));
 }
