@@ -44,7 +44,11 @@ std::string CliPrompts::ChooseFolder(const std::string& /*title*/, const std::st
 std::optional<std::uint32_t> CliPrompts::ChooseColor(std::uint32_t /*preset*/) {
   return std::nullopt;
 }
-std::string CliPrompts::PickOne(const std::string& /*title*/, const std::vector<std::string>& /*entries*/) {
+std::string CliPrompts::PickOne(const std::string& title, const std::vector<std::string>& entries) {
+  for (const std::string& entry : entries) {
+    if (common::EqualIgnoringCase(entry, choice_)) return entry;
+  }
+  MsgBox("Not in the list: " + choice_, platform::Buttons::Ok, title);
   return {};
 }
 std::vector<std::string> CliPrompts::PickMany(const std::string& /*title*/,

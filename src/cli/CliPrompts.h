@@ -11,10 +11,12 @@ namespace morvane::cli {
 class CliPrompts : public platform::Prompts {
  public:
   explicit CliPrompts(bool yes) : yes_(yes) {}
+  // What is taken from the lists that follow, in any case of its letters.
+  void Choose(std::string entry) { choice_ = std::move(entry); }
 
   platform::Answer MsgBox(const std::string& text, platform::Buttons buttons,
                           const std::string& title) override;
-  // Nothing can be typed or chosen here: these act as if cancelled.
+  // Nothing can be typed or chosen here but what Choose named: these act as if cancelled.
   std::optional<std::string> InputBox(const std::string& prompt, const std::string& title,
                                       const std::string& preset) override;
   std::string OpenFile(const platform::FileDialogRequest& request) override;
@@ -28,6 +30,7 @@ class CliPrompts : public platform::Prompts {
 
  private:
   bool yes_;
+  std::string choice_;
 };
 
 }  // namespace morvane::cli

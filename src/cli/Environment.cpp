@@ -22,6 +22,7 @@ std::string BaseDirectory(const GlobalOptions& options, const std::string& progr
 
 Environment::Environment(const GlobalOptions& options, const std::string& programDirectory)
     : yes(options.yes),
+      now(options.now),
       files(fileSystem, BaseDirectory(options, programDirectory)),
       settings(files),
       clock(options.now),

@@ -38,6 +38,7 @@ class Environment {
   std::string OutputArgument(std::string_view argument, std::string_view input) const;
 
   bool yes;
+  std::optional<platform::DateTime> now;  // in place of the present time
   platform::PosixFileSystem fileSystem;
   common::Files files;
   common::Settings settings;

@@ -17,12 +17,16 @@ bool AcceptName(const common::Files& files, platform::Prompts& prompts, const st
     files.ResolveInside(name);
     return true;
   } catch (const common::RunTimeError&) {
-    std::string shown = name.substr(0, kShown);
-    std::replace_if(
-        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < 32; }, '?');
-    prompts.MsgBox("This name leads out of the folder and is refused: " + shown);
+    prompts.MsgBox("This name leads out of the folder and is refused: " +
+                   PrintableName(name.substr(0, kShown)));
     return false;
   }
+}
+
+std::string PrintableName(std::string name) {
+  const auto control = [](char c) { return static_cast<unsigned char>(c) < 32 || c == 127; };
+  std::replace_if(name.begin(), name.end(), control, '?');
+  return name;
 }
 
 std::vector<std::string> ListedNames(const common::Files& files) {

@@ -51,11 +51,15 @@ bool StoreReply(Link& link, ReplyFile& file, const SerialReply& reply, bool& tim
 
 }  // namespace
 
+bool RequireAnswer(Link& link, int comPort) {
+  const bool answered = link.RS232ComCheck(comPort);
+  if (link.Aborted()) return false;
+  if (!answered) throw common::RunTimeError(kCheckFailed, "Communication check failed. Check Cable.");
+  return true;
+}
+
 bool DownloadSerial(Link& link, int comPort, const std::string& command, const std::string& localPath) {
-  if (!link.RS232ComCheck(comPort)) {
-    if (link.Aborted()) return false;
-    throw common::RunTimeError(kCheckFailed, "Communication check failed. Check Cable.");
-  }
+  if (!RequireAnswer(link, comPort)) return false;
   link.OpenSerial(comPort);
   const std::string bytes = link.Sources().files.Read(localPath);
   bool sent = link.SendSerial(command + "\r\n");

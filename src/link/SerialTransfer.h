@@ -7,6 +7,8 @@
 
 namespace morvane::link {
 
+// False when the program closes; throws when no machine answers. The line is closed afterwards.
+bool RequireAnswer(Link& link, int comPort);
 bool DownloadSerial(Link& link, int comPort, const std::string& command, const std::string& localPath);
 bool DownloadBinarySerial(Link& link, int comPort, const std::string& command, const std::string& localPath);
 

@@ -75,6 +75,15 @@ bool Comm::UploadFileTimed(const std::string& command, const std::string& localP
   });
 }
 
+bool Comm::Check() {
+  return Run("RS232ComCheck", "ConnectTcp", [&](const LinkSettings& settings) {
+    if (!settings.IsTcp()) return RequireAnswer(link_, settings.comPort);
+    const bool connected = link_.ConnectTcp(settings.ip, true);
+    if (connected) link_.CloseTcp();
+    return connected && !link_.Aborted();
+  });
+}
+
 bool Comm::SendCommand(const std::string& command) {
   return Run("SendCommand", "SendCommandTcp", [&](const LinkSettings& settings) {
     return settings.IsTcp() ? SendCommandTcp(link_, settings.ip, command)

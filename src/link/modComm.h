@@ -24,6 +24,8 @@ class Comm {
   bool UploadFile(const std::string& command, const std::string& localPath);
   // The same with a time-out in seconds, where 0 becomes 10; on the serial line a time-out is not told.
   bool UploadFileTimed(const std::string& command, const std::string& localPath, int& timeout);
+  // True when a machine is there: it answers on the serial line, or takes a connection.
+  bool Check();
   // Sends a line and expects nothing.
   bool SendCommand(const std::string& command);
   // Runs a job on the controller and waits for "SUCCESS".

@@ -23,14 +23,34 @@ const std::string kJob =
 
 TEST_F(Cli, WrongUsageIsToldWithTheUsage) {
   folder.Write("A.TJB", kJob);
-  for (const char* arguments :
-       {"", "nonsense", "job", "job show", "job show A.TJB more", "job draw A.TJB",
-        "job draw A.TJB --trace --size 0x5", "job draw A.TJB --trace --size 5",
-        "job draw A.TJB --trace --view sideways", "job draw --trace", "expand letters A",
-        "--frobnicate job show A.TJB", "--now yesterday job show A.TJB",
-        "--now '2026-02-30 00:00:00' job show A.TJB", "font show F.FNT",
-        "gcode draw A.JOB --trace --viewer tv", "gcode draw A.JOB --trace --tool 1 --all-tools",
-        "settings get Settings"}) {
+  for (const char* arguments : {"",
+                                "nonsense",
+                                "job",
+                                "job show",
+                                "job show A.TJB more",
+                                "job draw A.TJB",
+                                "job draw A.TJB --trace --size 0x5",
+                                "job draw A.TJB --trace --size 5",
+                                "job draw A.TJB --trace --view sideways",
+                                "job draw --trace",
+                                "expand letters A",
+                                "--frobnicate job show A.TJB",
+                                "--now yesterday job show A.TJB",
+                                "--now '2026-02-30 00:00:00' job show A.TJB",
+                                "font show F.FNT",
+                                "gcode draw A.JOB --trace --viewer tv",
+                                "gcode draw A.JOB --trace --tool 1 --all-tools",
+                                "settings get Settings",
+                                "job download",
+                                "job upload A.TJB B.TJB",
+                                "link",
+                                "link files",
+                                "link jobs *",
+                                "link get A.TXT B.TXT C.TXT",
+                                "link gcode",
+                                "link gcode 'G0\nG1'",
+                                "link runwait A.TJB soon",
+                                "link runwait A.TJB 0"}) {
     EXPECT_EQ(Run(arguments), 2) << arguments;
     EXPECT_EQ(folder.errors.substr(0, 19), "usage: morvane-cli ") << arguments;
     EXPECT_EQ(out, "") << arguments;

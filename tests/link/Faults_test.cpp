@@ -9,7 +9,7 @@ namespace {
 
 using test::LinkStation;
 
-// 0: text download, 1: binary download, 2: upload, 3: command.
+// 0: text download, 1: binary download, 2: upload, 3: command, 4: check, 5: timed upload.
 bool Operate(Comm& comm, int operation) {
   int timeout = 0;
   switch (operation) {
@@ -21,6 +21,8 @@ bool Operate(Comm& comm, int operation) {
       return comm.UploadFile("GET", "B.TXT");
     case 3:
       return comm.SendCommand("RUN");
+    case 4:
+      return comm.Check();
     default:
       return comm.UploadFileTimed("GET", "B.TXT", timeout);
   }
@@ -54,7 +56,10 @@ TEST(LinkFaults, AreToldAndTheNextOperationWorks) {
       {false, 1, busy, false, "Morvane: DownloadBinaryFile-Device or resource busy"},
       {false, 2, busy, false, "Morvane: UploadFile-Device or resource busy"},
       {false, 3, busy, false, "Morvane: SendCommand-Device or resource busy"},
-      {false, 4, busy, false, "Morvane: UploadFile-Device or resource busy"},
+      {false, 5, busy, false, "Morvane: UploadFile-Device or resource busy"},
+      {false, 4, busy, false, "Morvane: RS232ComCheck-Device or resource busy"},
+      {false, 4, deaf, false, "Morvane: RS232ComCheck-Communication check failed. Check Cable."},
+      {false, 4, stuckLine, true, ""},
       {false, 0, deaf, false, "Morvane: DownloadFile-Communication check failed. Check Cable."},
       {false, 0, pulledLater, false, "Morvane: DownloadFile-No such device"},
       {false, 1, pulled, false, "Morvane: DownloadBinaryFile-No such device"},
@@ -71,6 +76,8 @@ TEST(LinkFaults, AreToldAndTheNextOperationWorks) {
       {true, 0, silent, false, kConnect},
       {true, 1, silent, false, kConnect},
       {true, 2, silent, false, kConnect},
+      {true, 4, silent, false, kConnect},
+      {true, 4, stuck, true, ""},
       {true, 3, refused, false, "Morvane: Socket Error: Connection refused; " + kConnect},
       {true, 3, noPort, false, "Connect: Timeout waiting for controller IP=\r\n"},
       {true, 0, stuck, true, "Morvane: 28 bytes stuck in output buffer"},
@@ -106,7 +113,7 @@ TEST(LinkFaults, AreToldAndTheNextOperationWorks) {
 // The program closes at the first, second, ... wait of each operation: it ends at once and says nothing.
 TEST(LinkFaults, AClosingProgramEndsEveryLoop) {
   for (const bool network : {false, true}) {
-    for (int operation = 0; operation < 5; ++operation) {
+    for (int operation = 0; operation < 6; ++operation) {
       for (int stage = 1; stage <= 30; ++stage) {
         LinkStation station(network);
         station.disk.Put("/base/A.TXT", std::string(3000, 'x'));

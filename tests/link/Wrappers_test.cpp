@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "link/MachineClock.h"
 #include "link/Verify.h"
 #include "support/LinkStation.h"
 
@@ -60,6 +61,9 @@ bool FetchNone(Station& s) {
 bool FetchGraphics(Station& s) {
   return UploadGraphics(s.sources, s.Picks({"ONE", "TWO.job"})) == Names{"ONE.JOB", "TWO.job"};
 }
+bool SetClock(Station& s) {
+  return DownloadDateTime(s.sources, s.clock);
+}
 bool FetchTextJob(Station& s) {
   return UploadTextJob(s.sources);
 }
@@ -115,6 +119,12 @@ TEST(Wrappers, SendAndFetchWhatIsChosen) {
        "QT7250JOBS\r\nQT7250FILE ONE.JOB\r\nQT7250FILE TWO.job\r\n",
        fetched,
        {"Uploading ONE.JOB", "Uploading TWO.job"}},
+      {SetClock,
+       {},
+       true,
+       "QT7250DATE 03/05/24 14:07:09\r\n",
+       "Morvane: Download Date/Time Complete",
+       {"Downloading Date/Time"}},
       {FetchTextJob, {}, true, "QT7250FILE TEXTJOB.JOB\r\n", "", {"Uploading TEXTJOB.JOB"}},
   };
   for (const Case& c : cases) {

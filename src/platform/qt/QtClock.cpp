@@ -7,11 +7,13 @@
 
 namespace morvane::platform {
 
-QtClock::QtClock(Operations& operations) : operations_(operations) {
+QtClock::QtClock(Operations& operations, std::optional<DateTime> fixedNow)
+    : operations_(operations), fixedNow_(fixedNow) {
   started_.start();
 }
 
 DateTime QtClock::Now() const {
+  if (fixedNow_) return *fixedNow_;
   const QDateTime now = QDateTime::currentDateTime();
   const QDate date = now.date();
   const QTime time = now.time();

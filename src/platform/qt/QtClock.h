@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <optional>
 
 #include "platform/Clock.h"
 #include "platform/qt/Operations.h"
@@ -10,7 +11,8 @@ namespace morvane::platform {
 
 class QtClock : public Clock {
  public:
-  explicit QtClock(Operations& operations);
+  // With `fixedNow`, Now always returns that; waits and MonotonicSeconds stay real.
+  explicit QtClock(Operations& operations, std::optional<DateTime> fixedNow = std::nullopt);
   DateTime Now() const override;
   double MonotonicSeconds() const override;
   void Sleep(int milliseconds) override;
@@ -18,6 +20,7 @@ class QtClock : public Clock {
 
  private:
   Operations& operations_;
+  std::optional<DateTime> fixedNow_;
   QElapsedTimer started_;
 };
 

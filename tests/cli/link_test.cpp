@@ -1,0 +1,123 @@
+// The command line's link and job transfers against the simulated controller.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/Simulator.h"
+#include "tools/ToolFolder.h"
+
+namespace morvane {
+namespace {
+
+const std::string kAddress = test::OwnAddress();
+
+// A base directory that is connected to a machine.
+class CliLink : public testing::Test {
+ protected:
+  void Connect(bool network, const test::Simulator& simulator) {
+    folder.Write("Morvane.ini", std::string("[Settings]\r\nComPort=") + (network ? "5" : "2") + "\r\nIP=" +
+                                    kAddress + "\r\n[SerialDevices]\r\nCOM2=" + simulator.Line() + "\r\n");
+  }
+  int Run(const std::string& arguments) {
+    const int status = folder.Run("morvane-cli --base . --now '2026-03-09 14:05:07' " + arguments + " > out");
+    out = folder.Read("out");
+    return status;
+  }
+
+  test::ToolFolder folder;
+  std::string out;
+};
+
+TEST_F(CliLink, EveryCommandOverBothTransports) {
+  const std::string text = "one\r\ntwo \x80\r\n";
+  const std::string bytes("\0\xFF\r\n", 4);
+  for (const bool network : {false, true}) {
+    SCOPED_TRACE(network);
+    test::Simulator simulator(kAddress);
+    ASSERT_TRUE(simulator.ready);
+    Connect(network, simulator);
+    folder.Write("A.TXT", text);
+    folder.Write("P.RAS", bytes);
+    folder.Write("LOGO.JOB", "G0 X1\r\n");
+    struct Case {
+      const char* arguments;
+      const char* said;  // by the machine
+      const char* out;
+    };
+    const Case cases[] = {{"link check", nullptr, nullptr},
+                          {"link put A.TXT", "stored A.TXT, 12 bytes", nullptr},
+                          {"link putbin P.RAS", "stored P.RAS, 4 bytes", nullptr},
+                          {"link putjob LOGO.JOB", "stored LOGO.JOB, 7 bytes", nullptr},
+                          {"link files '*.*'", nullptr, "A.TXT\nLOGO.JOB\nP.RAS\n"},
+                          {"link jobs", nullptr, "LOGO\n"},
+                          {"link get A.TXT B.TXT", "sent A.TXT", nullptr},
+                          {"link run A.TXT", "ran A.TXT", nullptr},
+                          {"link runwait A.TXT", "ran A.TXT", nullptr},
+                          {"link gcode 'G0 X1'", "G-code G0 X1", nullptr},
+                          {"link date", "clock set to 03/09/26 14:05:07", nullptr},
+                          {"link delete P.RAS", "deleted P.RAS", nullptr}};
+    for (const Case& c : cases) {
+      SCOPED_TRACE(c.arguments);
+      ASSERT_EQ(Run(c.arguments), 0) << folder.errors;
+      EXPECT_TRUE(c.said == nullptr || simulator.WaitFor(c.said));
+      EXPECT_EQ(out, c.out != nullptr ? c.out : out);
+    }
+    EXPECT_EQ(folder.Read("B.TXT"), text);
+    EXPECT_EQ(simulator.machine.Read("A.TXT"), text);
+    EXPECT_FALSE(std::filesystem::exists(simulator.machine / "P.RAS"));
+    EXPECT_EQ(Run("link runwait NONE.TJB 2"), 1);
+    EXPECT_EQ(folder.errors, "Morvane: The run did not end well: NONE.TJB\n");
+  }
+}
+
+TEST_F(CliLink, AJobGoesWithItsFilesAndComesBack) {
+  test::Simulator simulator(kAddress);
+  ASSERT_TRUE(simulator.ready);
+  std::filesystem::copy(MORVANE_SOURCE_DIR "/station", folder.Path());
+  Connect(true, simulator);
+  ASSERT_EQ(Run("job download SAMPLE.TJB --run"), 0) << folder.errors;
+  EXPECT_TRUE(simulator.WaitFor("ran SAMPLE.TJB"));
+  const std::string job = folder.Read("SAMPLE.TJB");
+  // Behind a file of one full block comes one surplus byte.
+  EXPECT_EQ(simulator.machine.Read("SAMPLE.TJB").substr(0, job.size()), job);
+  EXPECT_EQ(simulator.machine.Read("SAMPLE.TJB").size(), job.size() + 1);
+  simulator.machine.Write("SAMPLE.TJB", job);
+  for (const char* name : {"LOGO.JOB", "RULE.JOB", "HOLE.JOB", "FILL1.FIL", "SAMPLE.DM"}) {
+    EXPECT_EQ(simulator.machine.Read(name), folder.Read(name)) << name;
+  }
+
+  const std::string logo = folder.Read("LOGO.JOB");
+  for (const char* name : {"SAMPLE.TJB", "LOGO.JOB"}) std::filesystem::remove(folder / name);
+  ASSERT_EQ(Run("job upload SAMPLE.TJB"), 0) << folder.errors;
+  EXPECT_EQ(folder.Read("SAMPLE.TJB"), job);
+  EXPECT_EQ(folder.Read("LOGO.JOB"), logo);
+}
+
+TEST_F(CliLink, HostileNamesLeadNowhere) {
+  test::Simulator simulator(kAddress, {"names=hostile"});
+  ASSERT_TRUE(simulator.ready);
+  folder.MakeFolder("base");
+  folder.Write("base/Morvane.ini", std::string("[Settings]\r\nComPort=5\r\nIP=") + kAddress + "\r\n");
+  const auto before = folder.Names();
+  const std::string refused = "Morvane: This name leads out of the folder and is refused: ";
+  struct Case {
+    const char* arguments;
+    std::string error;
+  };
+  const Case cases[] = {{"job upload '..\\evil.tjb'", refused + "..\\EVIL.TJB\n"},
+                        {"job upload ../EVIL.TJB", refused + "../EVIL.TJB\n"},
+                        {"job upload 'C:\\EVIL.TJB'", refused + "C:\\EVIL.TJB\n"},
+                        {"job upload NONE.TJB", "Select File: Not in the list: NONE.TJB\n"},
+                        {"link get ../EVIL.TJB", refused + "../EVIL.TJB\n"},
+                        {"job download ../NONE.TJB", "Morvane: Load(../NONE.TJB) File not found\n"}};
+  for (const Case& c : cases) {
+    EXPECT_EQ(folder.Run(std::string("morvane-cli --base base ") + c.arguments), 1) << c.arguments;
+    EXPECT_EQ(folder.errors, c.error);
+  }
+  auto after = folder.Names();
+  for (const char* name : {"base/Temp", "base/Temp/tmp.lst"}) after.erase(name);
+  EXPECT_EQ(after, before);
+}
+
+}  // namespace
+}  // namespace morvane
