@@ -47,6 +47,7 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
                .systemInfo = systemInfo_,
                .prompts = prompts_,
                .fileDialogs = fileDialogs_,
+               .clipboard = clipboard_,
                .waitWindow = waitWindow_,
                .progress = statusPanels_,
                .operations = operations_,

@@ -20,6 +20,7 @@
 #include "platform/posix/PosixSystemInfo.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/PictureStore.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtLocale.h"
 #include "platform/qt/QtSerialPort.h"
@@ -68,6 +69,7 @@ class Program {
   widgets::QtPrompts prompts_;
   common::DialogFolders dialogFolders_;
   common::FileDialogs fileDialogs_;
+  platform::QtClipboard clipboard_;
   context::StatusPanels statusPanels_;
   textjob::ViewOptions viewOptions_;
   textjob::TextJob job_;

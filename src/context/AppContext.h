@@ -9,6 +9,7 @@ struct ProcessRunner;
 }  // namespace morvane::common
 
 namespace morvane::platform {
+class Clipboard;
 class Clock;
 class Locale;
 class Operations;
@@ -51,6 +52,7 @@ struct AppContext {
   platform::SystemInfo& systemInfo;
   platform::Prompts& prompts;
   common::FileDialogs& fileDialogs;
+  platform::Clipboard& clipboard;
   platform::WaitWindow& waitWindow;
   platform::Progress& progress;
   platform::Operations& operations;

@@ -11,6 +11,7 @@ WindowStation::WindowStation()
               .systemInfo = systemInfo,
               .prompts = prompts,
               .fileDialogs = dialogs,
+              .clipboard = clipboard,
               .waitWindow = waitWindow,
               .progress = panels,
               .operations = operations,

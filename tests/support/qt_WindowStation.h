@@ -23,6 +23,7 @@
 #include "platform/posix/PosixSystemInfo.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/PictureStore.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeClock.h"
 #include "support/FakeLinks.h"
 #include "support/FakeLocale.h"
@@ -97,6 +98,7 @@ class WindowStation {
   common::ProcessRunner runner{processes, clock, files, folder.Path(), abort};
   common::DialogFolders folders;
   common::FileDialogs dialogs{prompts, files, folders};
+  FakeClipboard clipboard;
   platform::PictureStore pictures{files};
   context::StatusPanels panels;
   FakeController controller{clock};
