@@ -2,20 +2,12 @@
 
 #include <algorithm>
 
-#include "common/ImageFiles.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
 #include "textjob/Selection.h"
 #include "textjob/modTjb.h"
 
 namespace morvane::textjob {
 namespace {
-
-using common::PlainNumber;
-
-std::string Moved(const std::string& number, float by) {
-  return PlainNumber(common::ParseSingle(number) + by);
-}
 
 void Select(TextJob& job, std::size_t index) {
   job.Selection = SelectLines({static_cast<int>(index)});
@@ -63,30 +55,6 @@ void OffsetLines(TextJob& job, const LineOffset& offset, const std::string& unit
     for (std::string& text : job.Lines) move(text);
   }
   job.Dirty = true;
-}
-
-void OffsetBackground(const common::Files& files, const common::Settings& settings,
-                      const std::string& jobName, const LineOffset& offset) {
-  LockRecord record;
-  record.Job = jobName;
-  if (FindLockRecord(files, record)) {
-    if (record.Image.empty()) return;
-    record.X += offset.x;
-    record.Y += offset.y;
-    return WriteLockRecord(files, record, false);
-  }
-  const std::string section(common::kSettingsSection);
-  const common::SettingsSnapshot snapshot = settings.Read();
-  const std::string image = snapshot.Get(section, "BackgroundImage", "");
-  if (image.empty()) return;
-  common::ImageRectangle place = common::ReadImageRectangle(settings, image);
-  place[0] = Moved(place[0], offset.x);
-  place[1] = Moved(place[1], offset.y);
-  std::vector<common::SettingChange> changes = common::ImageRectangleChanges(image, place);
-  for (const auto& [key, by] : {std::pair{"BackgroundImageX", offset.x}, {"BackgroundImageY", offset.y}}) {
-    changes.push_back({section, key, Moved(snapshot.Get(section, key, "0"), by)});
-  }
-  settings.Apply(changes);
 }
 
 }  // namespace morvane::textjob

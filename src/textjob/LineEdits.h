@@ -3,9 +3,6 @@
 
 #include <string>
 
-#include "common/Files.h"
-#include "common/Settings.h"
-#include "textjob/LockImages.h"
 #include "textjob/TextJob.h"
 
 namespace morvane::textjob {
@@ -26,10 +23,5 @@ struct LineOffset {
 
 // Moves every line, or each selected one when there are several, and writes them whole.
 void OffsetLines(TextJob& job, const LineOffset& offset, const std::string& unitsFormat);
-
-// The background image of a job goes along: its lock record moves if it has one, else the image of the
-// settings. Does nothing without an image. Throws the run-time error of a failed write.
-void OffsetBackground(const common::Files& files, const common::Settings& settings,
-                      const std::string& jobName, const LineOffset& offset);
 
 }  // namespace morvane::textjob

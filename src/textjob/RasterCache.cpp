@@ -45,4 +45,14 @@ RasterBitmap BuildRasterBitmap(const common::ProcessRunner& runner, const std::s
   return {status, {}};
 }
 
+std::optional<PixelSize> RasterSizes::Get(const common::Files& files, const std::string& name) try {
+  const std::string bitmap = common::ScratchName(name, ".BMP");
+  const std::int64_t modified = files.ModifiedTime(bitmap);
+  Entry& entry = entries_[name];
+  if (entry.modified != modified) entry = {modified, BitmapSize(files.Read(bitmap))};
+  return entry.size;
+} catch (const common::RunTimeError&) {
+  return std::nullopt;
+}
+
 }  // namespace morvane::textjob

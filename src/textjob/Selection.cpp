@@ -4,6 +4,7 @@
 
 #include "common/Numbers.h"
 #include "common/Tokenizer.h"
+#include "textjob/modTjb.h"
 
 namespace morvane::textjob {
 namespace {
@@ -36,6 +37,21 @@ std::vector<std::size_t> SelectedIndices(const TextJob& job) {
     if (selected[i]) indices.push_back(i);
   }
   return indices;
+}
+
+std::vector<int> LinesInside(const TextJob& job, const platform::Rectangle& area,
+                             const recipes::Fixture* fixture) {
+  const bool sides = fixture != nullptr && fixture->Type == recipes::kFixtureIndex;
+  std::vector<int> lines;
+  for (std::size_t i = 0; i < job.LineCount(); ++i) {
+    const TextJobLine line = ParseTjbLine(job, i);
+    if (line.Type == kStartPosition || line.Type == kParkPath) continue;
+    const float y = line.YPos + (sides ? static_cast<float>(line.Side - 1) * fixture->Flat : 0);
+    const bool inside =
+        line.XPos >= area.x && line.XPos <= area.x + area.width && y >= area.y && y <= area.y + area.height;
+    if (inside) lines.push_back(static_cast<int>(i));
+  }
+  return lines;
 }
 
 std::string SelectLines(const std::vector<int>& lines) {

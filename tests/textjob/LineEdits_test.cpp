@@ -5,6 +5,7 @@
 
 #include "common/RunTimeError.h"
 #include "support/FakeFileSystem.h"
+#include "textjob/BackgroundOffset.h"
 
 namespace morvane::textjob {
 namespace {
@@ -61,7 +62,7 @@ TEST(LineEdits, TheBackgroundGoesAlong) {
     const char* listAfter;
   } cases[] = {
       {"BackgroundImage=P.BMP\r\nBackgroundImageX=1\r\n", "",
-       "BackgroundImage=P.BMP\r\nBackgroundImageX=1.5\r\nP.BMP=0.5,-1,4,4\r\nBackgroundImageY=-1\r\n", ""},
+       "BackgroundImage=P.BMP\r\nBackgroundImageX=1.5\r\nBackgroundImageY=-1\r\nP.BMP=0.5,-1,4,4\r\n", ""},
       {"BackgroundImage=P.BMP\r\nP.BMP=1,2,3,5\r\n", "",
        "BackgroundImage=P.BMP\r\nP.BMP=1.5,1,3,5\r\nBackgroundImageX=0.5\r\nBackgroundImageY=-1\r\n", ""},
       {"BackgroundImage=P.BMP\r\n", "A.TJB,Q.BMP,1,1,2,2\r\n", "BackgroundImage=P.BMP\r\n",
@@ -75,9 +76,13 @@ TEST(LineEdits, TheBackgroundGoesAlong) {
     const common::Settings settings(files);
     fileSystem.Put("/base/Morvane.ini", std::string("[Settings]\r\n") + c.ini);
     fileSystem.Put("/base/LockImages.txt", c.list);
-    OffsetBackground(files, settings, "A.TJB", {0.5F, -1, 9});
+    const BesideChange change = OffsetBackground(files, settings, "A.TJB", 0.5F, -1);
+    ApplyBeside(files, settings, change.after);
     EXPECT_EQ(fileSystem.Get("/base/Morvane.ini"), std::string("[Settings]\r\n") + c.iniAfter);
     EXPECT_EQ(fileSystem.Get("/base/LockImages.txt"), c.listAfter);
+    ApplyBeside(files, settings, change.before);
+    EXPECT_EQ(fileSystem.Get("/base/Morvane.ini"), std::string("[Settings]\r\n") + c.ini);
+    EXPECT_EQ(fileSystem.Get("/base/LockImages.txt"), c.list);
   }
 }
 
