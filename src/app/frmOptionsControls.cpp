@@ -1,4 +1,5 @@
 // The controls of the options dialog: what each kind of field shows, and the buttons on the pages.
+#include <QPainter>
 #include <algorithm>
 
 #include "app/frmAddMachine.h"
@@ -79,8 +80,14 @@ std::optional<std::string> frmOptions::FieldText(const common::OptionField& fiel
 void frmOptions::ShowColor(int index, std::uint32_t color) {
   colors_[static_cast<std::size_t>(index)] = color;
   auto* box = findChild<QPushButton*>("picColor" + QString::number(index));
-  QPixmap swatch(box->iconSize());
-  swatch.fill(platform::ToQt(color));
+  QPixmap swatch(box->iconSize() * box->devicePixelRatio());
+  swatch.setDevicePixelRatio(box->devicePixelRatio());
+  // The edge keeps a colour apart that is like the button's own.
+  QPainter painter(&swatch);
+  painter.setPen(Qt::gray);
+  painter.setBrush(platform::ToQt(color));
+  painter.drawRect(QRect(QPoint(), box->iconSize()).adjusted(0, 0, -1, -1));
+  painter.end();
   box->setIcon(swatch);
 }
 

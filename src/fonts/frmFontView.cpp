@@ -33,6 +33,8 @@ frmFontView::frmFontView(const context::AppContext& context, QWidget* parent)
   ui_->setupUi(this);
   ui_->pic->SetPictures(&context.pictures);
   ui_->pic->SetBackground(Qt::white);
+  // Room for any count, so that nothing beside it moves from character to character.
+  ui_->lblSegments->setMinimumWidth(fontMetrics().horizontalAdvance("Line Segments: 00000"));
   connect(ui_->cmdOpen, &QPushButton::clicked, this, &frmFontView::cmdOpen_Click);
   connect(ui_->txtJob, &QLineEdit::editingFinished, this, &frmFontView::txtJob_Change);
   connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { Step(1); });

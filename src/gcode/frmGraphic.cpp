@@ -56,6 +56,7 @@ frmGraphic::~frmGraphic() = default;
 
 void frmGraphic::AddSwatches() {
   constexpr int kColumns = 8;
+  QWidget* before = ui_->pic;
   for (int index = 0; index < kToolCount; ++index) {
     auto* button = new QToolButton(this);
     button->setObjectName(QString("picColor%1").arg(index));
@@ -67,6 +68,7 @@ void frmGraphic::AddSwatches() {
     button->setAccessibleName(tr("Tool %1").arg(index + 1));
     swatches_->addButton(button, index);
     ui_->swatches->addWidget(button, index / kColumns, index % kColumns);
+    setTabOrder(std::exchange(before, button), button);
   }
   swatches_->button(0)->setChecked(true);
   connect(swatches_, &QButtonGroup::idClicked, this, &frmGraphic::picColor_Click);
