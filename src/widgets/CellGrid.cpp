@@ -109,7 +109,7 @@ void CellGrid::SetRows(const std::vector<std::vector<QString>>& rows) {
 void CellGrid::KeepCell(const QString& shown) {
   entered_ = currentIndex();
   const QString now = Shown();
-  const bool answer = std::exchange(unanswered_, false);
+  const bool answer = std::exchange(unanswered_, false) || telling_ > 0;
   const bool list = EditorOpen() && editors_.Shown() != EditorKind::Text;
   if (!list && (answer || now == value_)) {
     model_.SetText(entered_.row(), entered_.column(), shown);

@@ -27,8 +27,8 @@ class CellGrid : public QTableView {
   // None, which is the default, hides the head.
   void SetHeaders(const QStringList& headers);
   // Refills the grid and emits nothing. The current row is kept while its label is there, with an open
-  // editor, its cursor and the focus. As an answer to CellEdited it leaves what was typed as it was typed;
-  // else the open editor takes over a changed value.
+  // editor, its cursor and the focus. From within CellEdited, or as the first call behind it, it leaves what
+  // was typed as it was typed; else the open editor takes over a changed value.
   void SetRows(const std::vector<std::vector<QString>>& rows);
   // One cell alone, emitting nothing; an editor over it takes the text over.
   void SetCellText(int row, int column, const QString& text);
@@ -114,6 +114,7 @@ class CellGrid : public QTableView {
   QString value_;            // as the owner knows it; the cell may show what is being typed
   QString composing_;        // the unfinished end of what it shows, from an input method
   bool unanswered_ = false;  // an edit was told, and no rows came since
+  int telling_ = 0;          // edits that are being told just now
 
   bool startOver_ = false;
   bool filling_ = false;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QValidator>
 #include <QWheelEvent>
 #include <algorithm>
@@ -153,7 +154,10 @@ void CellGrid::Edit(const QString& text) {
   value_ = text;
   model_.SetText(entered_.row(), entered_.column(), text);
   unanswered_ = true;
+  const QPointer<CellGrid> alive(this);
+  ++telling_;
   emit CellEdited(entered_.row(), entered_.column(), text);
+  if (alive) --telling_;
 }
 
 bool CellGrid::Restore() {

@@ -36,6 +36,7 @@ class CellGridTest : public ::testing::Test {
     QObject::connect(&grid_, &widgets::CellGrid::CellEdited,
                      [this](int row, int column, const QString& text) {
                        told_ << QString("%1=%2").arg(rows_[std::size_t(row)][0], text);
+                       grid_.SetRows(rows_);  // a pass that was under way shows what it began with
                        rows_[std::size_t(row)][std::size_t(column)] = row == kX ? Number(text) : text;
                        grid_.SetRows(rows_);
                      });
