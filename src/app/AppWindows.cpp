@@ -13,6 +13,8 @@
 #include "gcode/frmGraphic.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
+#include "textjob/Selection.h"
+#include "textjob/TextJob.h"
 #include "textjob/frmEdit.h"
 
 namespace morvane::app {
@@ -96,6 +98,12 @@ void AppWindows::OpenJob(const std::string& name) {
 void AppWindows::RedrawActiveJob() {
   jobIsStale_ = !EditorIsActive();
   if (!jobIsStale_) Form<textjob::frmEdit>(editor_)->DrawJob();
+}
+
+void AppWindows::SelectJobLine(int line) {
+  if (!IsOpen(editor_)) return;
+  context_.job.Selection = textjob::SelectLines({line});
+  Form<textjob::frmEdit>(editor_)->DrawJob();
 }
 
 void AppWindows::RedrawStaleJob() {

@@ -31,6 +31,7 @@ class AppWindows : public widgets::Windows {
   void OpenGraphicViewer(const std::string& file) override;
   void Refresh() override;
   void RedrawActiveJob() override;
+  void SelectJobLine(int line) override;
 
   // The text job editor, made on first use, in front of all others.
   textjob::frmEdit* ShowEditor();

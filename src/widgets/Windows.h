@@ -19,6 +19,8 @@ class Windows {
   virtual void Refresh() = 0;
   // Draws the active job anew, if there is one.
   virtual void RedrawActiveJob() = 0;
+  // Selects a line in the job editor, if that is open.
+  virtual void SelectJobLine(int line) = 0;
 };
 
 }  // namespace morvane::widgets
