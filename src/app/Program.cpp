@@ -57,6 +57,7 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
                .viewOptions = viewOptions_,
                .job = job_,
                .previewState = previewState_,
+               .recovery = recovery_,
                .font = font_,
                .glyphs = glyphs_,
                .windows = windows_,

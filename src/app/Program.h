@@ -26,6 +26,7 @@
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtTcpClient.h"
 #include "textjob/PreviewState.h"
+#include "textjob/RecoveryCopy.h"
 #include "textjob/TextJob.h"
 #include "textjob/ViewOptions.h"
 #include "widgets/QtPrompts.h"
@@ -74,6 +75,7 @@ class Program {
   textjob::ViewOptions viewOptions_;
   textjob::TextJob job_;
   textjob::PreviewState previewState_;
+  textjob::RecoveryCopy recovery_{files_, clock_, prompts_};
   fonts::FontTable font_;
   fonts::GlyphCache glyphs_{font_};
   AppWindows windows_;

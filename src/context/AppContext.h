@@ -31,6 +31,7 @@ class Comm;
 
 namespace morvane::textjob {
 struct PreviewState;
+class RecoveryCopy;
 struct TextJob;
 struct ViewOptions;
 }  // namespace morvane::textjob
@@ -63,6 +64,7 @@ struct AppContext {
   // The one job of the process, and what its preview keeps.
   textjob::TextJob& job;
   textjob::PreviewState& previewState;
+  textjob::RecoveryCopy& recovery;
   fonts::FontTable& font;
   fonts::GlyphCache& glyphs;
   widgets::Windows& windows;

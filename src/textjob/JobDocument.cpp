@@ -1,11 +1,19 @@
 #include "textjob/JobDocument.h"
 
+#include <utility>
+
 #include "common/FileNames.h"
 #include "textjob/JobFile.h"
 
 namespace morvane::textjob {
 
+void JobDocument::Restore(RecoveredJob copy) {
+  name_ = std::move(copy.name);
+  job_ = std::move(copy.job);
+}
+
 bool JobDocument::Open(const std::string& name) {
+  if (recovery_) recovery_->Remove();
   name_ = name;
   return LoadTjbFile(job_, name_, files_, prompts_);
 }
@@ -22,7 +30,12 @@ std::string JobDocument::GetTjbSaveName() {
 bool JobDocument::Save(const std::string& name) {
   std::string target = name.empty() ? name_ : name;
   if (target == kNewJob) target = GetTjbSaveName();
-  if (target.empty() || !SaveTjbFile(job_, target, files_, prompts_)) return false;
+  if (target.empty()) return false;
+  if (recovery_) recovery_->BeforeSave(job_, target);
+  if (!SaveTjbFile(job_, target, files_, prompts_)) {
+    if (recovery_) recovery_->Touch(job_, name_);
+    return false;
+  }
   Open(target);
   return true;
 }
@@ -36,6 +49,7 @@ bool JobDocument::LeaveJob(bool forget) {
   if (!job_.Dirty) return true;
   const platform::Answer answer = prompts_.MsgBox("Do you want to save this job?", platform::Buttons::YesNo);
   if (answer == platform::Answer::Yes) return Save();
+  if (recovery_) recovery_->Remove();
   if (forget) job_.Dirty = false;
   return true;
 }

@@ -6,19 +6,23 @@
 #include "common/FileDialogs.h"
 #include "common/Files.h"
 #include "platform/Prompts.h"
+#include "textjob/RecoveryCopy.h"
 #include "textjob/TextJob.h"
 
 namespace morvane::textjob {
 
 class JobDocument {
  public:
+  // `recovery`, when there is one, goes with each job that is saved, dropped or replaced here.
   JobDocument(TextJob& job, const common::Files& files, platform::Prompts& prompts,
-              common::FileDialogs& dialogs)
-      : job_(job), files_(files), prompts_(prompts), dialogs_(dialogs), name_(kNewJob) {}
+              common::FileDialogs& dialogs, RecoveryCopy* recovery = nullptr)
+      : job_(job), files_(files), prompts_(prompts), dialogs_(dialogs), recovery_(recovery), name_(kNewJob) {}
 
   // Program name, or `<NEW>`.
   const std::string& Name() const { return name_; }
 
+  // Puts the changes of a program that died in place of the job; they are not saved yet.
+  void Restore(RecoveredJob copy);
   // Loads the job of that program name. False after a message; what could be read stands.
   bool Open(const std::string& name);
   // Saves under `name`; empty means the present one, and `<NEW>` asks for a name. The job is loaded anew
@@ -37,6 +41,7 @@ class JobDocument {
   const common::Files& files_;
   platform::Prompts& prompts_;
   common::FileDialogs& dialogs_;
+  RecoveryCopy* recovery_;
   std::string name_;
 };
 

@@ -17,6 +17,7 @@
 #include "support/FakeFileSystem.h"
 #include "support/Mutator.h"
 #include "textjob/LockImages.h"
+#include "textjob/RecoveryFile.h"
 #include "textjob/modTjb.h"
 
 namespace morvane {
@@ -56,6 +57,18 @@ void ReadTjb(const std::string& bytes) {
     const std::string twice = rewritten(rewritten(line));
     ASSERT_EQ(rewritten(twice), twice);
   }
+}
+
+// The texts of a copy; its head is made for them, as a damage would else be found before they are read.
+void ReadRecovery(const std::string& texts) {
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char byte : texts) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
+  textjob::RecoveredJob copy, again;
+  const bool whole =
+      textjob::ReadRecovery("MORVANE RECOVERY 1 " + std::to_string(hash) + "\r\n" + texts, copy);
+  ASSERT_LE(copy.job.LineCount(), textjob::kMaxLines);
+  ASSERT_TRUE(!whole || textjob::ReadRecovery(textjob::WriteRecovery(copy.job, copy.name, ""), again));
+  ASSERT_EQ(whole ? copy.job.Lines : again.job.Lines, again.job.Lines);
 }
 
 // Every character can be asked for, in all four ways, and by the viewer's scanner.
@@ -219,7 +232,11 @@ const Subject kSubjects[] = {
     {"LockList",
      ReadLockList,
      {"A.TJB,A.BMP,1,2.5,3,4\r\nDIR\\b.tjb,,0,0,2,2\r\nC.TJB,C.BMP,0.125,-1,1E+10,4\r\n"},
-     {{"A.TJB,", "9"}, {"", "\\"}}}};
+     {{"A.TJB,", "9"}, {"", "\\"}}},
+    {"Recovery",
+     ReadRecovery,
+     {"5,A.TJB\r\n0,\r\n3,any\r\n5,4,1,1\r\n0,\r\n7,3,0,0\r\n\r\n", "5,<NEW>\r\n0,\r\n0,\r\n"},
+     {{"1,A\r\n0,\r\n", "9"}, {"1,A\r\n0,\r\n0,\r\n", "0,\r\n"}, {"99999999,", "A"}}}};
 
 class Readers : public testing::TestWithParam<Subject> {};
 

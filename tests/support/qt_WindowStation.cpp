@@ -21,6 +21,7 @@ WindowStation::WindowStation()
               .viewOptions = viewOptions,
               .job = job,
               .previewState = previewState,
+              .recovery = recovery,
               .font = font,
               .glyphs = glyphs,
               .windows = windows,

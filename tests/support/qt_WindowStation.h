@@ -32,6 +32,7 @@
 #include "support/FakeWaitWindow.h"
 #include "support/TempFolder.h"
 #include "textjob/PreviewState.h"
+#include "textjob/RecoveryCopy.h"
 #include "textjob/TextJob.h"
 #include "textjob/ViewOptions.h"
 
@@ -108,6 +109,7 @@ class WindowStation {
   textjob::ViewOptions viewOptions;
   textjob::TextJob job;
   textjob::PreviewState previewState;
+  textjob::RecoveryCopy recovery{files, clock, prompts};
   fonts::FontTable font;
   fonts::GlyphCache glyphs{font};
   app::AppWindows windows{context};

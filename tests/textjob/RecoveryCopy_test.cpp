@@ -1,0 +1,172 @@
+#include "textjob/RecoveryCopy.h"
+
+#include <gmock/gmock.h>
+
+#include "common/Text.h"
+#include "support/FakeClock.h"
+#include "support/FakeFileSystem.h"
+#include "support/FakePrompts.h"
+#include "textjob/JobDocument.h"
+
+namespace morvane::test {
+namespace {
+
+using platform::Answer;
+using testing::ElementsAre;
+using textjob::RecoveryCopy;
+
+const std::string kCopy = "/base/.morvane-recovery";
+const std::string kQuestion = "The program ended with unsaved changes of JOB. Do you want to restore them?";
+
+class RecoveryCopyTest : public ::testing::Test {
+ protected:
+  RecoveryCopyTest() { disk_.Put("/base/A.TJB", "COMMENT,\r\n4,0,0\r\n"); }
+
+  void Change(int number) {
+    job_.Comment = std::to_string(number);
+    job_.Dirty = true;
+  }
+  // The copy of a program that died with these changes; the file system's faults are gone with it.
+  void Leave(const std::string& name) {
+    RecoveryCopy(files_, clock_, prompts_).BeforeSave(job_, name);
+    prompts_.boxes.clear();
+  }
+  void Wait(double seconds) { clock_.seconds += seconds; }
+
+  FakeFileSystem disk_;
+  FakeClock clock_;
+  FakePrompts prompts_;
+  common::Files files_{disk_, "/base"};
+  common::DialogFolders folders_;
+  common::FileDialogs dialogs_{prompts_, files_, folders_};
+  textjob::TextJob job_{"any\r\ntext", {"4,1,1", "COMMENT,no line\n", "", "3,0,0\xE4"}, true, "1"};
+  RecoveryCopy recovery_{files_, clock_, prompts_};
+  textjob::JobDocument document_{job_, files_, prompts_, dialogs_, &recovery_};
+};
+
+// A change each tenth of a second, then none: what a crash at any time would lose.
+TEST_F(RecoveryCopyTest, IsNeverFarBehindAndRestsWhenNothingChanges) {
+  int writes = 0;
+  std::int64_t modified = 0;
+  std::string last;
+  std::vector<double> changed;  // when
+  for (int tick = 0; tick < 300; ++tick) {
+    if (tick < 200) Change(tick), changed.push_back(clock_.seconds);
+    recovery_.Touch(job_, "A.TJB");
+    const std::int64_t time = disk_.Status(kCopy).modifiedNanoseconds;
+    if (time != modified) ++writes, modified = time, last = disk_.Get(kCopy);
+    textjob::RecoveredJob copy;
+    const bool any = textjob::ReadRecovery(last, copy);
+    const std::size_t kept = any ? std::stoul(copy.job.Comment) + 1 : 0;
+    if (kept < changed.size()) {
+      ASSERT_LT(clock_.seconds - changed[kept], any ? 2.15 : 0.35) << tick;
+      ASSERT_TRUE(recovery_.DueIn().has_value());
+    }
+    Wait(0.1);
+  }
+  EXPECT_LE(writes, 12);
+  EXPECT_NE(last.find("2024-03-05 14:07:09"), std::string::npos);
+  EXPECT_FALSE(disk_.Has("/base/Temp"));
+  // Undone to the saved job.
+  job_.Dirty = false;
+  recovery_.Touch(job_, "A.TJB");
+  EXPECT_FALSE(disk_.Has(kCopy));
+  EXPECT_FALSE(recovery_.DueIn());
+}
+
+TEST_F(RecoveryCopyTest, IsOfferedAtTheNextStart) {
+  struct Case {
+    const char *name, *shown, *restored;
+    Answer answer;
+  };
+  for (const Case& c :
+       {Case{"A.TJB", "A.TJB", "A.TJB", Answer::Yes}, Case{"<NEW>", "<NEW>", "<NEW>", Answer::Yes},
+        Case{"SUB\\GONE.TJB", "GONE.TJB", "SUB\\GONE.TJB", Answer::Yes},
+        Case{"/home/x/B.TJB", "B.TJB", "<NEW>", Answer::Yes},
+        Case{"..\\..\\etc\\B.TJB", "B.TJB", "<NEW>", Answer::Yes},
+        Case{"C:\\B.TJB", "B.TJB", "<NEW>", Answer::Yes}, Case{"A.TJB", "A.TJB", "", Answer::No}}) {
+    const textjob::TextJob lost = job_;
+    Leave(c.name);
+    prompts_.answers = {c.answer};
+    const auto copy = recovery_.Offer();
+    EXPECT_THAT(prompts_.Texts(),
+                ElementsAre(common::ReplaceAll(kQuestion, "JOB.", std::string(c.shown) + ".")));
+    ASSERT_EQ(copy.has_value(), c.answer == Answer::Yes);
+    EXPECT_EQ(disk_.Has(kCopy), copy.has_value()) << "kept until the changes are saved";
+    if (!copy) continue;
+    job_ = {};
+    document_.Restore(*copy);
+    EXPECT_EQ(document_.Name(), c.restored);
+    EXPECT_EQ(job_.Lines, lost.Lines);
+    EXPECT_EQ(job_.Comment, lost.Comment);
+    EXPECT_TRUE(job_.Dirty && job_.Selection.empty());
+  }
+  EXPECT_FALSE(recovery_.Offer()) << "nothing was left";
+}
+
+TEST_F(RecoveryCopyTest, GoesWithTheChanges) {
+  const auto keep = [this] {
+    Change(1);
+    recovery_.BeforeSave(job_, "A.TJB");
+    EXPECT_TRUE(disk_.Has(kCopy));
+  };
+  document_.Open("A.TJB");
+  Change(1);
+  disk_.SetWritable("/base/A.TJB", false);
+  EXPECT_FALSE(document_.Save());
+  EXPECT_TRUE(disk_.Has(kCopy)) << "written ahead of the save, which failed";
+  disk_.SetWritable("/base/A.TJB", true);
+  EXPECT_TRUE(document_.Save());
+  EXPECT_FALSE(disk_.Has(kCopy)) << "saved";
+  keep();
+  prompts_.answers = {Answer::No};
+  EXPECT_TRUE(document_.LeaveJob(false));
+  EXPECT_FALSE(disk_.Has(kCopy)) << "dropped";
+  keep();
+  document_.Open("A.TJB");
+  EXPECT_FALSE(disk_.Has(kCopy)) << "replaced";
+  // The program died right behind the save.
+  Change(2);
+  Leave("A.TJB");
+  disk_.Put("/base/A.TJB", "COMMENT,2\r\n4,0,0\r\n");
+  EXPECT_FALSE(recovery_.Offer());
+  EXPECT_TRUE(prompts_.boxes.empty() && !disk_.Has(kCopy));
+}
+
+TEST_F(RecoveryCopyTest, ADamagedCopyIsPutAside) {
+  Leave("A.TJB");
+  const std::string whole = disk_.Get(kCopy);
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    for (const bool cut : {true, false}) {
+      std::string bytes = whole.substr(0, cut ? at : whole.size());
+      if (!cut) bytes[at] = static_cast<char>(bytes[at] ^ 1);
+      disk_.Put(kCopy, bytes);
+      ASSERT_FALSE(recovery_.Offer()) << at;
+      ASSERT_EQ(disk_.Get(kCopy + "-damaged"), bytes);
+      ASSERT_FALSE(disk_.Has(kCopy));
+    }
+  }
+  EXPECT_TRUE(prompts_.boxes.empty());
+}
+
+TEST_F(RecoveryCopyTest, AFullDiskIsToldOnceAndTriedAgain) {
+  const std::string told =
+      "The unsaved changes of A.TJB cannot be kept for a restart: Disk full. Save the job.";
+  int number = 0;
+  for (const bool full : {true, false, true}) {
+    disk_.faults.bytesLeft = full ? std::optional<std::size_t>(20) : std::nullopt;
+    for (int second = 0; second < 10; ++second, Wait(1)) {
+      Change(++number);
+      recovery_.Touch(job_, "A.TJB");
+    }
+  }
+  EXPECT_THAT(prompts_.Texts(), ElementsAre(told, told));
+  disk_.faults = {};
+  job_.Comment = "last";
+  Wait(2);
+  recovery_.Touch(job_, "A.TJB");
+  EXPECT_NE(disk_.Get(kCopy).find("4,last\r\n"), std::string::npos) << "although nothing changes any more";
+}
+
+}  // namespace
+}  // namespace morvane::test
