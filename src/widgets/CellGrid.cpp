@@ -93,12 +93,13 @@ void CellGrid::SetRows(const std::vector<std::vector<QString>>& rows) {
   const int found = model_.FindLabel(label, row);
   const int target = found >= 0 ? found : std::min(row, model_.rowCount() - 1);
   const QModelIndex cell = ValueCell(model_.index(target, std::min(column, model_.columnCount() - 1)));
-  if (found < 0 || cell.column() != column) HideEditor();
+  const bool same = found >= 0 && cell.column() == column;
+  if (!same) editors_.Hide(*this);
   if (cell != currentIndex()) setCurrentIndex(cell);
-  if (found < 0 || startOver_) {
-    EnterCell();
-  } else {
+  if (same && !startOver_) {
     KeepCell(shown);
+  } else {
+    EnterCell();
   }
   if (!EditorOpen()) return;
   editors_.SetText(Shown());

@@ -7,7 +7,6 @@ namespace {
 
 using textjob::LineEntry;
 using textjob::TextJob;
-using Lines = std::vector<std::string>;
 
 TEST(LineOrder, EntriesNameTheLineAndItsPlace) {
   const std::pair<const char*, const char*> entries[] = {
@@ -20,29 +19,22 @@ TEST(LineOrder, EntriesNameTheLineAndItsPlace) {
   for (const auto& [line, entry] : entries) EXPECT_EQ(LineEntry(line), entry) << line;
   TextJob job;
   job.Lines = {"4,1,1", "12,2,2"};
-  EXPECT_EQ(textjob::LineEntries(job), (Lines{"MOVE  (1,1)", "START  (2,2)"}));
+  EXPECT_EQ(textjob::LineEntries(job), (std::vector<std::string>{"MOVE  (1,1)", "START  (2,2)"}));
 }
 
 TEST(LineOrder, LinesSwapWithTheirNeighbours) {
-  const struct {
-    bool (*move)(TextJob&, std::size_t);
-    std::size_t index;
-    Lines lines;
-  } moves[] = {
-      {textjob::MoveLineUp, 1, {"b", "a", "c"}},   {textjob::MoveLineDown, 1, {"a", "c", "b"}},
-      {textjob::MoveLineUp, 0, {"a", "b", "c"}},   {textjob::MoveLineDown, 2, {"a", "b", "c"}},
-      {textjob::MoveLineUp, 3, {"a", "b", "c"}},   {textjob::MoveLineDown, 3, {"a", "b", "c"}},
-      {textjob::MoveLineUp, ~0U, {"a", "b", "c"}}, {textjob::MoveLineDown, std::size_t(-1), {"a", "b", "c"}}};
-  const Lines before{"a", "b", "c"};
-  for (const auto& move : moves) {
+  constexpr std::size_t kNone = std::size_t(-1);
+  const std::tuple<bool, std::size_t, const char*> moves[] = {
+      {true, 1, "bac"}, {false, 1, "acb"}, {true, 0, "abc"},     {false, 2, "abc"},
+      {true, 3, "abc"}, {false, 3, "abc"}, {true, kNone, "abc"}, {false, kNone, "abc"}};
+  for (const auto& [up, index, order] : moves) {
     TextJob job;
-    job.Lines = before;
-    EXPECT_EQ(move.move(job, move.index), move.lines != before);
-    EXPECT_EQ(job.Lines, move.lines);
-    EXPECT_EQ(job.Dirty, move.lines != before);
+    job.Lines = {"a", "b", "c"};
+    const bool moved = std::string(order) != "abc";
+    EXPECT_EQ(up ? MoveLineUp(job, index) : MoveLineDown(job, index), moved);
+    EXPECT_EQ(job.Lines[0] + job.Lines[1] + job.Lines[2], order);
+    EXPECT_EQ(job.Dirty, moved);
   }
-  TextJob none;
-  EXPECT_FALSE(textjob::MoveLineDown(none, 0));
 }
 
 }  // namespace

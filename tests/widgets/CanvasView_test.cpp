@@ -118,43 +118,47 @@ TEST_F(CanvasViewTest, ADragSpansARectangleAndAClickStaysAClick) {
   QObject::connect(&view_, &widgets::CanvasView::Pressed, [&](const QPointF& at, Qt::MouseButton button) {
     told << QString("press %1 at %2,%3").arg(button).arg(at.x()).arg(at.y());
   });
-  QObject::connect(
-      &view_, &widgets::CanvasView::RubberBand, [&](const QRectF& world, Qt::KeyboardModifiers modifiers) {
-        told << QString("%1,%2 %3x%4").arg(world.x()).arg(world.y()).arg(world.width()).arg(world.height()) +
-                    (modifiers.testFlag(Qt::ControlModifier) ? " ctrl" : "");
-      });
-  const auto bands = [&] { return view_.findChildren<QRubberBand*>(); };
-  const auto drag = [&](const QPoint& from, const QPoint& to) {
-    QTest::mousePress(&view_, Qt::LeftButton, {}, from);
-    EXPECT_EQ(told, QStringList()) << "it may become a drag";
-    QTest::mouseMove(&view_, to);
-  };
-  const auto release = [&](const QPoint& at, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseRelease(&view_, Qt::LeftButton, modifiers, at);
-    EXPECT_TRUE(bands().isEmpty() || bands()[0]->isHidden());
-    return std::exchange(told, {});
-  };
-  drag({50, 50}, {52, 51});
-  EXPECT_EQ(release({52, 51}), QStringList("press 1 at 1,1"));
-  drag({200, 150}, {100, 100});
-  EXPECT_EQ(bands().at(0)->geometry(), QRect(100, 100, 100, 50));
-  EXPECT_EQ(release({100, 100}, Qt::ControlModifier), QStringList("2,2 2x1 ctrl"));
-  // The first corner stays on its point of the drawing.
-  drag({200, 100}, {250, 100});
-  QTest::keyClick(&view_, Qt::Key_Right);
-  EXPECT_EQ(release({200, 200}), QStringList("4,2 0.8x2"));
-  view_.Fit();
-  // Three ways to give it up.
-  const std::function<void()> ways[] = {[&] { QTest::keyClick(&view_, Qt::Key_Escape); },
-                                        [&] {
-                                          QTest::mouseClick(&view_, Qt::RightButton, {}, {9, 9});
-                                        },
-                                        [&] { view_.clearFocus(); }};
-  for (const auto& way : ways) {
-    drag({0, 0}, {90, 90});
-    way();
-    EXPECT_EQ(release({90, 90}), QStringList());
+  QObject::connect(&view_, &widgets::CanvasView::RubberBand,
+                   [&](const QRectF& at, Qt::KeyboardModifiers keys) {
+                     told << QString("%1 %2,%3 %4x%5")
+                                 .arg(int(keys), 0, 16)
+                                 .arg(at.x())
+                                 .arg(at.y())
+                                 .arg(at.width())
+                                 .arg(at.height());
+                   });
+  const std::function<void()> nothing = [] {};
+  const struct {
+    QPoint from, to;
+    std::function<void()> meanwhile;
+    Qt::KeyboardModifiers keys;
+    QStringList told;
+  } drags[] = {{{50, 50}, {52, 51}, nothing, {}, {"press 1 at 1,1"}},
+               {{200, 150}, {100, 100}, nothing, Qt::ControlModifier, {"4000000 2,2 2x1"}},
+               // The first corner stays on its point of the drawing.
+               {{200, 100}, {200, 200}, [&] { QTest::keyClick(&view_, Qt::Key_Right); }, {}, {"0 4,2 0.8x2"}},
+               // Three ways to give it up.
+               {{0, 0}, {90, 90}, [&] { QTest::keyClick(&view_, Qt::Key_Escape); }, {}, {}},
+               {{0, 0},
+                {90, 90},
+                [&] {
+                  QTest::mouseClick(&view_, Qt::RightButton, {}, {9, 9});
+                },
+                {},
+                {}},
+               {{0, 0}, {90, 90}, [&] { view_.clearFocus(); }, {}, {}}};
+  for (const auto& drag : drags) {
     view_.setFocus();
+    QTest::mousePress(&view_, Qt::LeftButton, {}, drag.from);
+    EXPECT_EQ(told, QStringList()) << "it may become a drag";
+    QTest::mouseMove(&view_, drag.to);
+    const auto* band = view_.findChild<QRubberBand*>();
+    EXPECT_EQ(band != nullptr && band->isVisible(), drag.to != QPoint(52, 51));
+    drag.meanwhile();
+    QTest::mouseRelease(&view_, Qt::LeftButton, drag.keys, drag.to);
+    EXPECT_EQ(std::exchange(told, {}), drag.told);
+    EXPECT_TRUE(band == nullptr || band->isHidden());
+    view_.Fit();
   }
   QTest::mousePress(&view_, Qt::RightButton, {}, {100, 50});
   EXPECT_EQ(std::exchange(told, {}), QStringList("press 2 at 2,1")) << "at once";

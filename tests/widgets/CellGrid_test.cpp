@@ -18,6 +18,7 @@ namespace morvane::test {
 namespace {
 
 using widgets::CellEditor;
+using widgets::CellGrid;
 using widgets::EditorKind;
 
 constexpr int kText = 0, kType = 1, kDpi = 2, kX = 3, kFile = 4;
@@ -27,39 +28,40 @@ class CellGridTest : public ::testing::Test {
  protected:
   CellGridTest() {
     auto* layout = new QVBoxLayout(&window_);
-    for (QWidget* widget :
-         {static_cast<QWidget*>(&before_), static_cast<QWidget*>(&grid_), static_cast<QWidget*>(&after_)}) {
-      layout->addWidget(widget);
+    const std::pair<QWidget*, const char*> fields[] = {
+        {&before_, "before"}, {&grid_, "grid"}, {&after_, "after"}};
+    for (const auto& [field, name] : fields) {
+      field->setObjectName(name);
+      layout->addWidget(field);
     }
-    grid_.SetEditorChooser([this](int row, int column) { return Editor(row, column); });
+    grid_.SetEditorChooser(Editor);
     grid_.SetRows(rows_);
-    QObject::connect(&grid_, &widgets::CellGrid::CellEdited,
-                     [this](int row, int column, const QString& text) {
-                       told_ << QString("%1=%2").arg(rows_[std::size_t(row)][0], text);
-                       grid_.SetRows(rows_);  // a pass that was under way shows what it began with
-                       rows_[std::size_t(row)][std::size_t(column)] = row == kX ? Number(text) : text;
-                       grid_.SetRows(rows_);
-                     });
-    QObject::connect(&grid_, &widgets::CellGrid::CurrentCellMoved,
-                     [this](int row, int column) { told_ << QString("at %1,%2").arg(row).arg(column); });
-    QObject::connect(&grid_, &widgets::CellGrid::StepRequested,
+    QObject::connect(&grid_, &CellGrid::CellEdited, [this](int row, int, const QString& text) {
+      told_ << QString("%1=%2").arg(grid_.CellText(row, 0), text);
+      grid_.SetRows(rows_);  // a pass that was under way shows what it began with
+      QString& value = rows_[std::size_t(row)][1];
+      value = grid_.CellText(row, 0) == "X" ? Number(text) : text;
+      grid_.SetRows(rows_);
+    });
+    const auto tell = [this](const char* what) {
+      return [this, what](int row, int) { told_ << QString(what).arg(row); };
+    };
+    QObject::connect(&grid_, &CellGrid::CurrentCellMoved, tell("at %1"));
+    QObject::connect(&grid_, &CellGrid::ButtonPressed, tell("open %1"));
+    QObject::connect(&grid_, &CellGrid::StepRequested,
                      [this](int, int, int steps) { told_ << QString("step %1").arg(steps); });
-    QObject::connect(&grid_, &widgets::CellGrid::ButtonPressed,
-                     [this](int row, int) { told_ << QString("button %1").arg(row); });
     window_.resize(300, 400);
     window_.show();
     window_.activateWindow();
     WindowStation::Pump();
   }
   static QString Number(const QString& text) {
-    const double value = common::ParseNumber(text.toStdString());
-    return QString::fromStdString(common::FormatPicture(value, "0.000"));
+    return QString::fromStdString(common::FormatPicture(common::ParseNumber(text.toStdString()), "0.000"));
   }
   static CellEditor Editor(int row, int) {
     if (row == kType) return {EditorKind::List, {"Normal", "Serial", QString(60, 'W')}};
-    if (row == kDpi) return {};
     if (row == kFile) return {EditorKind::ListWithButton, {"OTHER", "PART"}};
-    return {EditorKind::Text, {}};
+    return {row == kDpi ? EditorKind::None : EditorKind::Text, {}};
   }
   // What was told since the last question.
   QString Told() { return std::exchange(told_, {}).join(' '); }
@@ -72,12 +74,16 @@ class CellGridTest : public ::testing::Test {
   QString Value() const { return grid_.CellText(grid_.CurrentRow(), grid_.CurrentColumn()); }
   QWidget* Focus() const { return window_.focusWidget(); }
   QLineEdit& Text() { return Find<QLineEdit>(grid_, "txtSelect"); }
-  void Wheel(int row, int delta) {
-    const QPointF at = grid_.visualRect(grid_.model()->index(row, 1)).center();
-    QWheelEvent event(at, grid_.viewport()->mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(grid_.viewport(), &event);
+  QRect Cell() const { return grid_.visualRect(grid_.currentIndex()); }
+  QPoint Middle(int row, int column) const {
+    return grid_.visualRect(grid_.model()->index(row, column)).center();
   }
+  static void Wheel(QWidget& widget, QPointF at, int delta) {
+    QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
+  void Wheel(int row, int delta) { Wheel(*grid_.viewport(), Middle(row, 1), delta); }
   void Compose(const QString& preedit, const QString& commit) {
     QInputMethodEvent event(preedit, {});
     event.setCommitString(commit);
@@ -89,7 +95,7 @@ class CellGridTest : public ::testing::Test {
   QStringList told_;
   QWidget window_;
   QLineEdit before_, after_;
-  widgets::CellGrid grid_;
+  CellGrid grid_;
 };
 
 TEST_F(CellGridTest, KeysInTheGridChangeTheValue) {
@@ -97,24 +103,21 @@ TEST_F(CellGridTest, KeysInTheGridChangeTheValue) {
     int row, key;
     Qt::KeyboardModifiers modifiers;
     const char *text, *told, *value;
-  } keys[] = {{kText, Qt::Key_D, Qt::ShiftModifier, "D", "Text=ABCD", "ABCD"},
-              {kText, Qt::Key_Space, {}, " ", "Text=ABCD ", "ABCD "},
-              {kText, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@", "Text=ABCD @", "ABCD @"},
+  } keys[] = {{kText, Qt::Key_Space, {}, " ", "Text=ABC ", "ABC "},
+              {kText, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@", "Text=ABC @", "ABC @"},
               {kText, Qt::Key_Escape, {}, "\x1b", "Text=ABC", "ABC"},
               {kText, Qt::Key_Escape, {}, "\x1b", "", "ABC"},
               {kText, Qt::Key_Z, Qt::ControlModifier, "\x1a", "", "ABC"},
-              {kText, Qt::Key_C, Qt::ControlModifier, "\x03", "", "ABC"},
               {kText, Qt::Key_O, Qt::AltModifier, "o", "", "ABC"},
               {kText, Qt::Key_Delete, {}, "\x7f", "", "ABC"},
-              {kText, Qt::Key_Down, {}, "", "at 1,1", "Normal"},
               {kDpi, Qt::Key_5, {}, "5", "", "300"},
               {kDpi, Qt::Key_Backspace, {}, "\b", "", "300"},
               // What is typed stands, although the owner knows the number in its own form.
               {kX, Qt::Key_Backspace, {}, "\b", "X=1.00", "1.00"},
-              {kX, Qt::Key_Backspace, {}, "\b", "X=1.0", "1.0"},
-              {kX, Qt::Key_5, {}, "5", "X=1.05", "1.05"},
-              {kX, Qt::Key_Up, Qt::ControlModifier, "", "step 1", "1.05"},
-              {kX, Qt::Key_Left, {}, "", "", "1.05"}};
+              {kX, Qt::Key_5, {}, "5", "X=1.005", "1.005"},
+              {kX, Qt::Key_Up, Qt::ControlModifier, "", "step 1", "1.005"},
+              {kX, Qt::Key_Backspace, {}, "\b", "X=1.00", "1.00"},
+              {kX, Qt::Key_Down, {}, "", "at 4", "PART"}};
   for (const auto& key : keys) {
     if (grid_.CurrentRow() != key.row) Go(key.row, false);
     QKeyEvent event(QEvent::KeyPress, key.key, key.modifiers, key.text);
@@ -123,9 +126,13 @@ TEST_F(CellGridTest, KeysInTheGridChangeTheValue) {
     EXPECT_EQ(Value(), key.value);
     EXPECT_EQ(event.isAccepted(), key.told[0] != '\0') << key.key;
   }
-  EXPECT_EQ(rows_[kX][1], "1.050");
-  QTest::keyClick(&grid_, Qt::Key_Up);
-  EXPECT_EQ(grid_.CellText(kX, 1), "1.050");
+  EXPECT_EQ(grid_.CellText(kX, 1), "1.000");
+  // The validator of the text box holds here too.
+  QDoubleValidator digits;
+  grid_.Editors().TextBox().setValidator(&digits);
+  Go(kX, false);
+  QTest::keyClicks(&grid_, "a2");
+  EXPECT_EQ(Told(), "X=1.0002");
 }
 
 TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
@@ -142,7 +149,7 @@ TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
   EXPECT_EQ(Focus(), &Text());
   EXPECT_EQ(Text().text(), "2.5");
   EXPECT_EQ(Text().cursorPosition(), 1);
-  EXPECT_EQ(Text().geometry(), grid_.visualRect(grid_.currentIndex()));
+  EXPECT_EQ(Text().geometry(), Cell());
   // A value that changed otherwise is shown.
   rows_[kX + 1][1] = "7.000";
   grid_.SetRows(rows_);
@@ -150,12 +157,11 @@ TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
   EXPECT_EQ(Text().cursorPosition(), 1);
   grid_.SetCellText(kX + 1, 1, "8");
   EXPECT_EQ(Text().text(), "8");
-  EXPECT_EQ(Told(), "");
-  rows_.resize(3);
+  rows_[kX + 1] = {"Y", "9"};
   grid_.SetRows(rows_);
   EXPECT_FALSE(grid_.EditorOpen());
   EXPECT_EQ(Focus(), &grid_);
-  EXPECT_EQ(grid_.CurrentRow(), 2);
+  EXPECT_EQ(Value(), "9");
   grid_.SetRows({});
   grid_.OpenEditor();
   QTest::keyClicks(&grid_, "a\b\r");
@@ -164,10 +170,8 @@ TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
 
 TEST_F(CellGridTest, EscapeBringsBackWhatTheCellHeldWhenItWasEntered) {
   Go(kX, true);
-  QTest::keyClicks(&Text(), "9");
-  QTest::keyClick(&Text(), Qt::Key_Escape);
+  QTest::keyClicks(&Text(), "9\x1b");
   EXPECT_EQ(Told(), "X=9 X=1.000");
-  EXPECT_FALSE(grid_.EditorOpen());
   EXPECT_EQ(Focus(), &grid_);
   // Closing alone changes nothing, and another thing's value is not brought back.
   grid_.OpenEditor();
@@ -184,63 +188,42 @@ TEST_F(CellGridTest, EscapeBringsBackWhatTheCellHeldWhenItWasEntered) {
 
 TEST_F(CellGridTest, KeysGoThroughTheRowsAndOut) {
   Go(kText, true);
-  const struct {
-    int key;
-    const char* told;
-    const char* focus;
-  } steps[] = {{Qt::Key_Up, "", "txtSelect"},
-               {Qt::Key_Down, "at 1,1", "cmbSelect"},
-               {Qt::Key_Backspace, "", "cmbSelect"},
-               {Qt::Key_Down, "at 2,1", "grid"},
-               {Qt::Key_Down, "at 3,1", "txtSelect"},
-               {Qt::Key_Up, "at 2,1", "grid"},
-               {Qt::Key_Up, "at 1,1", "cmbSelect"},
-               {Qt::Key_Return, "at 3,1", "txtSelect"},
-               {Qt::Key_Enter, "at 4,1", "cmbSelectJob"},
-               {Qt::Key_Return, "", "grid"},
-               {Qt::Key_Return, "", "cmbSelectJob"},
-               {Qt::Key_Escape, "", "grid"},
-               {Qt::Key_F2, "", "cmbSelectJob"},
-               {Qt::Key_Tab, "", "after"},
-               {Qt::Key_Backtab, "", "grid"},
-               {Qt::Key_Return, "", "cmbSelectJob"},
-               {Qt::Key_Backtab, "", "before"}};
-  grid_.setObjectName("grid");
-  before_.setObjectName("before");
-  after_.setObjectName("after");
-  for (const auto& step : steps) {
-    QTest::keyClick(Focus(), Qt::Key(step.key));
-    EXPECT_EQ(Told(), step.told);
-    EXPECT_EQ(Focus()->objectName(), step.focus) << step.key;
-    EXPECT_EQ(grid_.EditorOpen(), QString(step.focus).contains("Select"));
+  const std::tuple<Qt::Key, const char*, const char*> steps[] = {
+      {Qt::Key_Up, "", "txtSelect"},           {Qt::Key_Down, "at 1", "cmbSelect"},
+      {Qt::Key_Backspace, "", "cmbSelect"},    {Qt::Key_Down, "at 2", "grid"},
+      {Qt::Key_Up, "at 1", "cmbSelect"},       {Qt::Key_Return, "at 3", "txtSelect"},
+      {Qt::Key_Enter, "at 4", "cmbSelectJob"}, {Qt::Key_Return, "", "grid"},
+      {Qt::Key_Return, "", "cmbSelectJob"},    {Qt::Key_Tab, "", "after"},
+      {Qt::Key_Backtab, "", "grid"},           {Qt::Key_F2, "", "cmbSelectJob"},
+      {Qt::Key_Backtab, "", "before"}};
+  for (const auto& [key, told, focus] : steps) {
+    QTest::keyClick(Focus(), key);
+    EXPECT_EQ(Told(), told);
+    EXPECT_EQ(Focus()->objectName(), focus) << key;
+    EXPECT_EQ(grid_.EditorOpen(), QString(focus).contains("Select"));
   }
   // A table with several values goes on to the next one.
   grid_.SetEditorChooser(nullptr);
   grid_.SetHeaders({"Tool #", "Load", "Unload"});
   grid_.SetRows({{"1", "a", "b"}, {"2", "c"}});
   grid_.SetCurrentCell(0, 1, true);
-  for (const char* value : {"b", "c", ""}) {
+  for (const char* value : {"b", "c", "", ""}) {
     QTest::keyClick(Focus(), Qt::Key_Tab);
     EXPECT_EQ(Text().text(), value);
   }
-  QTest::keyClick(Focus(), Qt::Key_Tab);
   EXPECT_EQ(Focus(), &after_);
 }
 
 TEST_F(CellGridTest, AClickOpensTheEditorAndLeavingClosesIt) {
-  const auto click = [&](int row, int column) {
-    QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {},
-                      grid_.visualRect(grid_.model()->index(row, column)).center());
-  };
-  click(kX, 0);
-  EXPECT_EQ(Told(), "at 3,1");
-  EXPECT_EQ(Focus(), &Text());
-  click(kText, 1);
-  EXPECT_EQ(Told(), "at 0,1");
-  EXPECT_EQ(Text().text(), "ABC");
-  click(kDpi, 1);
-  EXPECT_EQ(Focus(), &grid_);
-  click(kText, 1);
+  const std::tuple<int, int, const char*, const char*> clicks[] = {{kX, 0, "at 3", "txtSelect"},
+                                                                   {kType, 1, "at 1", "cmbSelect"},
+                                                                   {kDpi, 1, "at 2", "grid"},
+                                                                   {kText, 1, "at 0", "txtSelect"}};
+  for (const auto& [row, column, told, focus] : clicks) {
+    QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {}, Middle(row, column));
+    EXPECT_EQ(Told(), told);
+    EXPECT_EQ(Focus()->objectName(), focus);
+  }
   after_.setFocus();
   EXPECT_FALSE(grid_.EditorOpen());
   EXPECT_EQ(Focus(), &after_);
@@ -262,33 +245,28 @@ TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
   EXPECT_GT(list.view()->minimumWidth(), list.fontMetrics().horizontalAdvance(QString(60, 'W')));
   QTest::keyClicks(&list, "S");
   EXPECT_EQ(Told(), "Type=Serial");
-  QWheelEvent wheel({5, 5}, list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&list, &wheel);
+  Wheel(list, {5, 5}, -120);
   EXPECT_EQ(list.currentText(), "Serial");
   // A value that is no choice is shown, and not told.
   rows_[kType][1] = "Other";
   grid_.SetRows(rows_);
   EXPECT_EQ(list.currentText(), "Other");
   Go(kFile, true);
-  Find<QToolButton>(grid_, "cmdSelectJob").click();
-  EXPECT_EQ(Told(), "button 4");
-  EXPECT_EQ(Find<QToolButton>(grid_, "cmdSelectJob").toolTip(), "Open this file");
+  auto& button = Find<QToolButton>(grid_, "cmdSelectJob");
+  EXPECT_EQ(button.toolTip(), "Open this file");
+  button.click();
   QTest::keyClicks(&Find<QComboBox>(grid_, "cmbSelectJob"), "o");
-  EXPECT_EQ(Told(), "File=OTHER");
+  EXPECT_EQ(Told(), "open 4 File=OTHER");
 }
 
 TEST_F(CellGridTest, TheWheelStepsTheCurrentValueAndScrollsElsewhere) {
   Go(kX, true);
-  Wheel(kX, 120);
-  Wheel(kX, -60);
-  EXPECT_EQ(Told(), "step 1");
-  Wheel(kX, -240);
-  EXPECT_EQ(Told(), "step -2");
+  for (const int delta : {120, -60, -300}) Wheel(kX, delta);
   Wheel(kText, 120);
+  EXPECT_EQ(Told(), "step 1 step -3");
   after_.setFocus();
   Wheel(kX, 120);
-  EXPECT_EQ(Told(), "");
+  EXPECT_EQ(Told(), "") << "nobody edits here";
   // The editor goes along.
   for (int i = 0; i < 40; ++i) rows_.push_back({QString("Row %1").arg(i), ""});
   grid_.SetRows(rows_);
@@ -296,14 +274,13 @@ TEST_F(CellGridTest, TheWheelStepsTheCurrentValueAndScrollsElsewhere) {
   const int top = Text().y();
   Wheel(kText, -120);
   EXPECT_LT(Text().y(), top);
-  EXPECT_EQ(Text().geometry(), grid_.visualRect(grid_.currentIndex()));
+  EXPECT_EQ(Text().geometry(), Cell());
   window_.resize(500, 400);
-  EXPECT_EQ(Text().geometry(), grid_.visualRect(grid_.currentIndex()));
   QFont font = window_.font();
   font.setPointSize(30);
   window_.setFont(font);
   WindowStation::Pump();
-  EXPECT_EQ(Text().geometry(), grid_.visualRect(grid_.currentIndex()));
+  EXPECT_EQ(Text().geometry(), Cell());
   EXPECT_GT(Text().height(), QFontMetrics(font).height());
 }
 
@@ -321,12 +298,6 @@ TEST_F(CellGridTest, InputMethodsTypeIntoTheGrid) {
   Go(kDpi, false);
   Compose({}, "5");
   EXPECT_EQ(Value(), "300");
-  // The validator of the text box holds for keys in the grid.
-  QDoubleValidator digits;
-  grid_.Editors().TextBox().setValidator(&digits);
-  Go(kX, false);
-  QTest::keyClicks(&grid_, "a2");
-  EXPECT_EQ(Told(), "X=1.0002");
 }
 
 }  // namespace

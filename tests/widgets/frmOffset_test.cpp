@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "support/qt_WindowStation.h"
 
@@ -23,9 +22,11 @@ TEST(frmOffset, AsksForWhatItsCallerNeeds) {
     widgets::frmOffset form(request, station.settings);
     form.show();
     EXPECT_EQ(form.windowTitle(), request.title);
-    EXPECT_EQ(Find<QLabel>(form, "labXOffset").text(), "&X Offset (mm)");
-    EXPECT_EQ(Find<QLabel>(form, "labYOffset").text(), "&Y Offset (mm)");
-    EXPECT_EQ(Find<QLabel>(form, "labDepthOffset").text(), "&Depth Offset (mm)");
+    for (const auto& [name, text] : {std::pair{"labXOffset", "&X Offset (mm)"},
+                                     {"labYOffset", "&Y Offset (mm)"},
+                                     {"labDepthOffset", "&Depth Offset (mm)"}}) {
+      EXPECT_EQ(Find<QLabel>(form, name).text(), text);
+    }
     auto& depth = Find<QLineEdit>(form, "txtDepthOffset");
     auto& byObject = Find<QCheckBox>(form, "chkOffsetyByObject");
     EXPECT_EQ(byObject.text(), "Offset &by Object");
@@ -38,9 +39,9 @@ TEST(frmOffset, AsksForWhatItsCallerNeeds) {
     if (request.byObject) byObject.click();
     QTest::keyClick(&x, Qt::Key_Return);
     EXPECT_EQ(form.result(), QDialog::Accepted);
-    const widgets::OffsetTexts found = form.Texts();
-    EXPECT_EQ(found.x + "," + found.y + "," + found.depth, texts);
-    EXPECT_EQ(found.byObject, request.byObject);
+    const auto [foundX, foundY, foundDepth, foundByObject] = form.Texts();
+    EXPECT_EQ(foundX + "," + foundY + "," + foundDepth, texts);
+    EXPECT_EQ(foundByObject, request.byObject);
   }
 }
 
