@@ -31,7 +31,8 @@ std::string PrintableName(std::string name) {
 
 std::vector<std::string> ListedNames(const common::Files& files) {
   std::vector<std::string> names = ReadLines(files, kListing);
-  names.erase(std::remove(names.begin(), names.end(), std::string()), names.end());
+  const auto isBlank = [](const std::string& name) { return name.find_first_not_of(' ') == name.npos; };
+  names.erase(std::remove_if(names.begin(), names.end(), isBlank), names.end());
   return names;
 }
 

@@ -1,4 +1,6 @@
 // What the editor does with the controller and with the image that is locked to its job.
+#include <QPointer>
+
 #include "common/FileNames.h"
 #include "context/AppContext.h"
 #include "platform/qt/Operations.h"
@@ -30,11 +32,14 @@ void frmEdit::RefreshLockButton() {
 void frmEdit::Transfer(bool (JobTransfer::*what)()) {
   if (!context_.comm.Owner().Free()) return;
   const platform::Operations::Scope scope(context_.operations, this);
+  const QPointer<QWidget> focus = focusWidget();
   setEnabled(false);
   JobTransfer transfer({context_.files, context_.settings, context_.prompts, context_.waitWindow,
                         context_.comm, context_.job, document_, context_.viewOptions.Fixture});
   (transfer.*what)();
   setEnabled(true);
+  // Another window may have it by now.
+  if (focus && window()->focusWidget() == nullptr) focus->setFocus();
   if (!context_.abortTransfers) ShowJob();
 }
 

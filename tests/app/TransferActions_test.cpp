@@ -101,7 +101,10 @@ TEST_F(TransferMenu, FetchedGraphicsAreShownWhenAskedFor) {
 TEST_F(TransferMenu, TheEditorsButtonsSendRunAndFetch) {
   station.folder.Write("A.TJB", "COMMENT,1\r\n7,1,1,1,,0,0,0,0,A.FIL@@,1\r\n");
   station.windows.OpenFile(station.folder / "A.TJB");
+  auto& download = Find<QPushButton>(station.Active<textjob::frmEdit>(), "cmdDownload");
+  download.setFocus();
   Press("cmdDownload");
+  EXPECT_TRUE(download.hasFocus());
   EXPECT_EQ(Last(), "Download Complete");
   EXPECT_TRUE(station.controller.wire.starts_with("QT7250DFILE A.FIL\r\n")) << station.controller.wire;
   Press("cmdDownloadRun");

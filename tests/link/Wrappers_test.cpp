@@ -20,7 +20,7 @@ struct Station : test::LinkStation {
     disk.Put("/base/A.TJB", "a\r\n");
     disk.Put("/home/b.job", "b\r\n");
     disk.Put("/home/C.RAS", "\1\2");
-    controller.replies["QT7250FILES *.TJB"] = {"A.TJB\r\n\r\nB.TJB\r\n..\\C.TJB\r\nENDFILE\r\n"};
+    controller.replies["QT7250FILES *.TJB"] = {"A.TJB\r\n\r\n \r\nB.TJB\r\n..\\C.TJB\r\nENDFILE\r\n"};
     controller.replies["QT7250JOBS"] = {"ONE\r\nTWO.job\r\nENDFILE\r\n"};
     for (const char* name : {"B.TJB", "ONE.JOB", "TWO.job", "TEXTJOB.JOB", "Default.cap"})
       controller.replies[std::string("QT7250FILE ") + name] = {"new\nENDFILE\r\n"};
