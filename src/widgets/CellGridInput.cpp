@@ -1,4 +1,5 @@
 // Keys, mouse and focus of the cell grid and of its editors.
+#include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -33,10 +34,11 @@ bool IsReturn(const QKeyEvent& key) {
   return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && Modifiers(key) == Qt::NoModifier;
 }
 
-// The focus comes back from these by itself.
-bool IsPassing(Qt::FocusReason reason) {
-  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-         reason == Qt::MenuBarFocusReason;
+// The focus comes back by itself: from other windows, open lists and menus.
+bool ComesBack(const QFocusEvent& focus, const QWidget& from) {
+  const QWidget* next = QApplication::focusWidget();
+  return next == nullptr || next->window() != from.window() || focus.reason() == Qt::PopupFocusReason ||
+         focus.reason() == Qt::MenuBarFocusReason;
 }
 
 // A text box takes the keys of undo even when it has nothing to undo; then they are the window's.
@@ -60,7 +62,7 @@ bool CellGrid::eventFilter(QObject* watched, QEvent* event) {
       event->setAccepted(text);
       return !text;
     case QEvent::FocusOut:
-      if (!IsPassing(static_cast<QFocusEvent*>(event)->reason())) CloseEditor();
+      if (!ComesBack(*static_cast<QFocusEvent*>(event), *this)) CloseEditor();
       return false;
     default:
       return false;
@@ -250,7 +252,7 @@ void CellGrid::focusInEvent(QFocusEvent* event) {
 
 void CellGrid::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
-  if (!EditorOpen() && !IsPassing(event->reason())) ShowValue();
+  if (!EditorOpen() && !ComesBack(*event, *this)) ShowValue();
 }
 
 void CellGrid::changeEvent(QEvent* event) {

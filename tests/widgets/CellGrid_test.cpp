@@ -251,6 +251,13 @@ TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
   rows_[kType][1] = "Other";
   grid_.SetRows(rows_);
   EXPECT_EQ(list.currentText(), "Other");
+  list.showPopup();
+  WindowStation::Pump();
+  QTest::keyClick(list.view(), Qt::Key_Home);
+  QTest::keyClick(list.view(), Qt::Key_Return);
+  WindowStation::Pump();
+  EXPECT_EQ(Told(), "Type=Normal");
+  EXPECT_EQ(Focus(), &list);
   Go(kFile, true);
   auto& button = Find<QToolButton>(grid_, "cmdSelectJob");
   EXPECT_EQ(button.toolTip(), "Open this file");
