@@ -13,8 +13,7 @@
 #include "gcode/frmGraphic.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
-#include "textjob/Selection.h"
-#include "textjob/TextJob.h"
+#include "textjob/RecoveryCopy.h"
 #include "textjob/frmEdit.h"
 
 namespace morvane::app {
@@ -95,15 +94,19 @@ void AppWindows::OpenJob(const std::string& name) {
   if (editor->LeaveJob()) editor->OpenJob(name);
 }
 
+bool AppWindows::OfferRecovery() {
+  const auto copy = context_.recovery.Offer();
+  if (copy) ShowEditor()->OpenRecovered(*copy);
+  return copy.has_value();
+}
+
 void AppWindows::RedrawActiveJob() {
   jobIsStale_ = !EditorIsActive();
   if (!jobIsStale_) Form<textjob::frmEdit>(editor_)->DrawJob();
 }
 
 void AppWindows::SelectJobLine(int line) {
-  if (!IsOpen(editor_)) return;
-  context_.job.Selection = textjob::SelectLines({line});
-  Form<textjob::frmEdit>(editor_)->DrawJob();
+  if (IsOpen(editor_)) Form<textjob::frmEdit>(editor_)->SelectLine(line);
 }
 
 void AppWindows::RedrawStaleJob() {

@@ -45,6 +45,8 @@ class AppWindows : public widgets::Windows {
   void ViewGraphic(const std::string& path);
   // Opens a job (program name) in the editor, once a changed one there is settled.
   void OpenJob(const std::string& name);
+  // Offers the unsaved changes of a program that died. True when the editor shows them now.
+  bool OfferRecovery();
   // A job whose redraw came while another window was active is drawn when its editor comes forward.
   void RedrawStaleJob();
   bool EditorIsActive() const;

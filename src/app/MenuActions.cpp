@@ -26,6 +26,9 @@ void MenuActions::mnuFileOpen_Click() {
 void MenuActions::mnuFileEdit_Click() {
   windows_.ShowEditor();
 }
+void MenuActions::mnuFileOffset_Click() {
+  windows_.ShowEditor()->OffsetJob();
+}
 void MenuActions::mnuFileClose_Click() {
   windows_.CloseEditor();
 }

@@ -22,6 +22,7 @@ class MenuActions {
 
   void mnuFileOpen_Click();
   void mnuFileEdit_Click();
+  void mnuFileOffset_Click();
   void mnuFileClose_Click();
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();

@@ -42,7 +42,7 @@ constexpr bool kLine = true;
 constexpr MenuEntry kEntries[] = {
     {"mnuFile", "mnuFileOpen", "&Open", "Ctrl+O", "Open a text job", &A::mnuFileOpen_Click},
     {"mnuFile", "mnuFileEdit", "&Edit", "Ctrl+E", "Show the text job editor", &A::mnuFileEdit_Click},
-    {"mnuFile", "mnuFileOffset", "O&ffset", "", "Shift every line of the text job", nullptr, kJob},
+    {"mnuFile", "mnuFileOffset", "O&ffset", "", "Shift every line of the text job", &A::mnuFileOffset_Click, kJob},
     {"mnuFile", "mnuFileClose", "&Close", "", "Close the text job editor", &A::mnuFileClose_Click},
     {"mnuFile", "mnuFileSave", "&Save", "Ctrl+S", "Save the text job", &A::mnuFileSave_Click, kJob, kPlain, kLine},
     {"mnuFile", "mnuFileSaveAs", "Save &As...", "Ctrl+Shift+S", "Save the text job under another name", &A::mnuFileSaveAs_Click, kJob},

@@ -125,9 +125,10 @@ void Program::Start(const CommandLine& line) {
   frame_->MDIForm_Load();
   splash.reset();
   frame_->show();
-  if (job.empty()) return;
   // The window stands before the job is drawn, which may take side programs and their waits.
-  QTimer::singleShot(kJobAfter, frame_.get(), [this, job] { windows_.OpenFile(job); });
+  QTimer::singleShot(kJobAfter, frame_.get(), [this, job] {
+    if (!windows_.OfferRecovery() && !job.empty()) windows_.OpenFile(job);
+  });
 }
 
 }  // namespace morvane::app

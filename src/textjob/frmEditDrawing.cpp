@@ -1,4 +1,4 @@
-// The preview of the editor: drawing passes, selection, mouse.
+// The preview of the editor: drawing passes, and what they fill.
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -9,7 +9,6 @@
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtText.h"
-#include "textjob/PositionText.h"
 #include "textjob/Preview.h"
 #include "textjob/PreviewSettings.h"
 #include "textjob/Selection.h"
@@ -54,6 +53,7 @@ void frmEdit::RunPass(ClickSearch* search) {
   context_.progress.Clear();
   ShowLegend();
   ShowLines(job, result);
+  if (search == nullptr) ShowRows(job);
 }
 
 // A pass that waits for a side program shows what it has so far.
@@ -97,35 +97,6 @@ void frmEdit::ShowLegend() {
     label->setAutoFillBackground(true);
     label->setPalette(palette);
   }
-}
-
-void frmEdit::cmbLine_Click() {
-  if (filling_) return;
-  std::vector<int> lines;
-  for (int row = 0; row < ui_->cmbLine->count(); ++row) {
-    if (ui_->cmbLine->item(row)->isSelected()) lines.push_back(row);
-  }
-  context_.job.Selection = SelectLines(lines);
-  DrawJob();
-}
-
-void frmEdit::pic_MouseDown(const QPointF& world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-  if (button != Qt::LeftButton || drawing_) return;
-  ClickSearch search{static_cast<float>(world.x()), static_cast<float>(world.y())};
-  RunPass(&search);
-  if (search.line >= 0) {
-    context_.job.Selection = modifiers.testFlag(Qt::ControlModifier)
-                                 ? ToggleLine(context_.job.Selection, search.line)
-                                 : SelectLines({search.line});
-  }
-  DrawJob();
-}
-
-void frmEdit::pic_MouseMove(const QPointF& world) {
-  const bool fixture = context_.viewOptions.Fixture && context_.previewState.fixture;
-  const std::string text = PositionText(world.x(), world.y(), context_.settings.UnitsFormatText(),
-                                        fixture ? &*context_.previewState.fixture : nullptr);
-  context_.statusPanels.SetText(context::Panel::Mouse, platform::ToQt(text));
 }
 
 }  // namespace morvane::textjob

@@ -21,6 +21,7 @@ QComboBox* MakeList(QWidget* parent, const char* name) {
   list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   list->setMaxVisibleItems(kMostVisible);
   list->setFocusPolicy(Qt::ClickFocus);
+  list->setAccessibleName(QObject::tr("Value"));
   return list;
 }
 
@@ -46,6 +47,7 @@ CellEditors::CellEditors(QWidget& viewport)
       fileButton_(new QToolButton(file_)) {
   text_->setObjectName("txtSelect");
   text_->setFocusPolicy(Qt::ClickFocus);
+  text_->setAccessibleName(QObject::tr("Value"));
   fileButton_->setObjectName("cmdSelectJob");
   fileButton_->setText(QString(QChar(0x2026)));
   fileButton_->setToolTip(QObject::tr("Open this file"));

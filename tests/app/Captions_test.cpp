@@ -17,7 +17,7 @@ TEST(Captions, StandOnTheirControls) {
       {"labDraw", "Draw"}, {"labSel", "Sel"}, {"labTool", "Tool"}, {"labGrid", "Grid"}, {"labRef", "Ref"}};
   auto& editor = station.Active<textjob::frmEdit>();
   for (const auto& [name, caption] : captions) EXPECT_EQ(Find<QLabel>(editor, name).text(), caption);
-  EXPECT_EQ(Find<QPushButton>(editor, "cmdNewLine").toolTip(), "Not available in this version yet");
+  EXPECT_EQ(Find<QPushButton>(editor, "cmdOpenFile").toolTip(), "Not available in this version yet");
   EXPECT_EQ(editor.windowTitle(), "Text Job - <NEW>[*]");
   EXPECT_EQ(fonts::frmFontView(station.context).windowTitle(), "Font Viewer");
   station.prompts.files.push_back({});

@@ -108,7 +108,8 @@ TEST(MenuTable, BehindEachEntryIsAWindowADocumentOrAWordThatItIsMissing) {
       {"mnuViewRefresh", "frmEdit"},  {"mnuGraphicView", "frmGraphic"},
       {"mnuFontView", "frmFontView"}, {"mnuGraphicOpenLastJob", "frmGraphic"}};
   const std::map<std::string, std::string> dialogs = {{"mnuHelpAbout", "frmAbout"},
-                                                      {"mnuViewOptions", "frmOptions"}};
+                                                      {"mnuViewOptions", "frmOptions"},
+                                                      {"mnuFileOffset", "frmOffset"}};
   for (const app::MenuEntry& entry : app::MenuEntries()) {
     SCOPED_TRACE(entry.name);
     WindowStation station;

@@ -1,12 +1,16 @@
 #include "textjob/frmEdit.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 
 #include "support/qt_Pixels.h"
 #include "support/qt_WindowStation.h"
 #include "widgets/CanvasView.h"
+#include "widgets/CellGrid.h"
 
 namespace morvane::test {
 namespace {
@@ -162,6 +166,91 @@ TEST_F(frmEditTest, ToolPathMarkDrawsItsLines) {
   station.Entry("mnuViewToolPath").trigger();
   station.Entry("mnuFileEdit").trigger();
   EXPECT_EQ(CountPixels(picture, green), 0);
+}
+
+TEST_F(frmEditTest, AClickEditsAndARightClickMoves) {
+  Open("ONE.TJB");
+  auto& grid = Control<widgets::CellGrid>("PropertyGrid");
+  station.Frame().activateWindow();
+  ClickWorld(1.1, 1.9);
+  auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  ASSERT_TRUE(editor != nullptr && editor->objectName() == "txtSelect");
+  const int before = CountPixels(pic(), kSelected);
+  QTest::keyClicks(editor, "AAA");
+  EXPECT_EQ(Lines().at(0), "Line 1: AAA");
+  EXPECT_GT(CountPixels(pic(), kSelected), before * 2);
+  EXPECT_TRUE(Form().isWindowModified());
+  QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Lines().at(0) + editor->text(), "Line 1: AA") << "one visit, one step; the box follows";
+
+  station.prompts.answers = {Answer::Yes};
+  QTest::mouseClick(&pic(), Qt::RightButton, {}, pic().FromWorld({2, 2}).toPoint());
+  EXPECT_FALSE(grid.EditorOpen());
+  EXPECT_NE(station.prompts.Texts().at(0).find("Do you wish to move this object to "), std::string::npos);
+  EXPECT_EQ(station.job.Lines.at(0).substr(0, 3), "0,2");
+
+  // Two lines: their common rows, and the group's offset.
+  const QPoint corner = pic().FromWorld({0.5, 0.5}).toPoint();
+  QTest::mousePress(&pic(), Qt::LeftButton, {}, corner);
+  QTest::mouseMove(&pic(), corner + QPoint(40, 40));
+  QTest::mouseMove(&pic(), pic().FromWorld({3.5, 3.5}).toPoint());
+  QTest::mouseRelease(&pic(), Qt::LeftButton, {}, pic().FromWorld({3.5, 3.5}).toPoint());
+  EXPECT_EQ(station.job.Selection, "0,2");
+  EXPECT_EQ(grid.CellText(0, 0), "X pos");
+  QString title;
+  QTimer::singleShot(0, &Form(), [&] {
+    title = QApplication::activeModalWidget()->windowTitle();
+    QApplication::activeModalWidget()->close();
+  });
+  station.Entry("mnuFileOffset").trigger();
+  EXPECT_EQ(title, "Offset TJB Group");
+}
+
+TEST_F(frmEditTest, LinesGoOverTheClipboardAndABadOneIsToldOnce) {
+  Open("ONE.TJB");
+  station.Frame().activateWindow();
+  auto& list = Control<QListWidget>("cmbLine");
+  list.setFocus();
+  list.setCurrentRow(2);
+  for (const auto key : {Qt::Key_C, Qt::Key_V, Qt::Key_D}) QTest::keyClick(&list, key, Qt::ControlModifier);
+  EXPECT_EQ(station.clipboard.text, "4,3,3\r\n");
+  EXPECT_EQ(Lines().size(), 5);
+  QTest::keyClick(&list, Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(Lines().size(), 4);
+  station.clipboard.text = "0,1,1,1,FONT1.fnt,7,0,0,0,A@@\r\n";
+  QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"DrawLine-Subscript out of range"});
+  EXPECT_EQ(Control<widgets::CellGrid>("PropertyGrid").RowCount(), 0);
+  Control<QPushButton>("cmdDeleteLine").click();
+  EXPECT_EQ(Lines().size(), 4);
+  EXPECT_EQ(Control<widgets::CellGrid>("PropertyGrid").RowCount(), 5);
+}
+
+TEST_F(frmEditTest, OnlyLinesWithAFileOfTheirOwnHaveAnOpener) {
+  station.folder.Write("FILES.TJB", "4,1,1\r\n7,2,2,0,,0,0,0,0,F.FIL@@\r\n");
+  Open("FILES.TJB");
+  auto& opener = Control<QPushButton>("cmdOpenFile");
+  EXPECT_TRUE(opener.isHidden());
+  Form().SelectLine(1);
+  EXPECT_FALSE(opener.isHidden());
+  EXPECT_FALSE(opener.isEnabled());
+  QTest::mouseDClick(&pic(), Qt::LeftButton, {}, pic().FromWorld({2, 2}).toPoint());
+  EXPECT_EQ(station.Frame().statusBar()->currentMessage(), "Not available in this version yet");
+}
+
+TEST_F(frmEditTest, ChangesOfAProgramThatDiedAreOfferedAndGoWithTheirSave) {
+  Open("ONE.TJB");
+  station.job.Lines.push_back("4,9,9");
+  station.job.Dirty = true;
+  station.recovery.BeforeSave(station.job, "ONE.TJB");
+  station.job = {};
+  station.prompts.answers = {Answer::Yes};
+  EXPECT_TRUE(station.windows.OfferRecovery());
+  EXPECT_EQ(Lines().size(), 4);
+  EXPECT_TRUE(Form().isWindowModified());
+  Control<QPushButton>("cmdSave").click();
+  EXPECT_NE(station.folder.Read("ONE.TJB").find("4,9,9"), std::string::npos);
+  EXPECT_FALSE(station.windows.OfferRecovery());
 }
 
 // A raster line bakes its bitmap with a side program, and windows live on meanwhile.
