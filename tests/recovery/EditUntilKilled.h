@@ -6,7 +6,6 @@
 #include <random>
 #include <string>
 
-#include "platform/Clock.h"
 #include "support/FakePrompts.h"
 #include "textjob/modTjb.h"
 
@@ -24,6 +23,8 @@ class Victim {
   virtual void Undo() = 0;
   // Under the name kVictimJob.
   virtual void Save() = 0;
+  // Monotonic, as its clock runs.
+  virtual double Seconds() const = 0;
   // Lets its timers run.
   virtual void Wait(int milliseconds) = 0;
 };
@@ -31,14 +32,12 @@ class Victim {
 // Each line of the log: what, a comment, a hash of the whole job, the time in milliseconds. "start" and "now"
 // tell what the job is; "save", "undo" and "change", which names the comment to come, what is about to
 // happen. A line reaches the system at once, so a killed process leaves all of them.
-inline void EditUntilKilled(Victim& victim, const platform::Clock& clock, const std::string& logPath,
-                            unsigned seed) {
+inline void EditUntilKilled(Victim& victim, const std::string& logPath, unsigned seed) {
   std::mt19937 random(seed);
   std::ofstream log(logPath);
   const auto tell = [&](const char* what, const std::string& comment) {
     const std::size_t hash = std::hash<std::string>()(textjob::WriteTjb(victim.Job()));
-    log << what << ' ' << comment << ' ' << hash << ' ' << std::llround(clock.MonotonicSeconds() * 1000)
-        << std::endl;
+    log << what << ' ' << comment << ' ' << hash << ' ' << std::llround(victim.Seconds() * 1000) << std::endl;
   };
   tell("start", "-");
   // Often, to be killed in a save; or hardly ever, so that much hangs on the copy.

@@ -49,6 +49,7 @@ class CoreVictim : public Victim {
     document_.Save(kVictimJob);
     history_.MarkSaved(job_);
   }
+  double Seconds() const override { return clock_.MonotonicSeconds(); }
   void Wait(int milliseconds) override {
     clock_.Sleep(milliseconds);
     if (recovery_.DueIn() == 0.0) recovery_.Touch(job_, document_.Name());
@@ -78,5 +79,5 @@ class CoreVictim : public Victim {
 int main(int, char** arguments) {
   morvane::test::FastClock clock(std::atoi(arguments[4]));
   morvane::test::CoreVictim victim(arguments[1], clock);
-  morvane::test::EditUntilKilled(victim, clock, arguments[2], static_cast<unsigned>(std::atoi(arguments[3])));
+  morvane::test::EditUntilKilled(victim, arguments[2], static_cast<unsigned>(std::atoi(arguments[3])));
 }

@@ -2,8 +2,9 @@
 
 namespace morvane::test {
 
-WindowStation::WindowStation()
-    : context{.files = files,
+WindowStation::WindowStation(const std::string& baseDirectory)
+    : base(baseDirectory.empty() ? folder.Path() : baseDirectory),
+      context{.files = files,
               .settings = settings,
               .processes = runner,
               .clock = clock,

@@ -61,7 +61,8 @@ class FillableDisk : public platform::PosixFileSystem {
 
 class WindowStation {
  public:
-  WindowStation();
+  // `base`: a base directory that outlives the station, instead of its own folder.
+  explicit WindowStation(const std::string& base = {});
   ~WindowStation();
 
   // Makes the frame and goes through its loading, as the program does.
@@ -84,6 +85,7 @@ class WindowStation {
   static void Pump();
 
   TempFolder folder;
+  const std::string base;
   FillableDisk fileSystem;
   platform::PosixSystemInfo systemInfo;
   FakeProcesses processes;
@@ -94,9 +96,9 @@ class WindowStation {
   bool abort = false;
   bool developer = false;
   platform::Operations operations{abort};
-  common::Files files{fileSystem, folder.Path()};
+  common::Files files{fileSystem, base};
   common::Settings settings{files};
-  common::ProcessRunner runner{processes, clock, files, folder.Path(), abort};
+  common::ProcessRunner runner{processes, clock, files, base, abort};
   common::DialogFolders folders;
   common::FileDialogs dialogs{prompts, files, folders};
   FakeClipboard clipboard;
