@@ -16,6 +16,8 @@
 #include "support/qt_WindowStation.h"
 #include "textjob/frmEdit.h"
 #include "textjob/frmLockImage.h"
+#include "textjob/frmReorder.h"
+#include "widgets/frmOffset.h"
 #include "widgets/frmSelect.h"
 #include "widgets/frmUploadFiles.h"
 
@@ -99,7 +101,12 @@ void CheckDialog(QDialog& dialog) {
   }
   CheckForm(dialog);
   const QList<QPushButton*> buttons = dialog.findChildren<QPushButton*>();
-  EXPECT_EQ(std::count_if(buttons.begin(), buttons.end(), [](QPushButton* b) { return b->isDefault(); }), 1);
+  const auto count = [&buttons](bool (QPushButton::*is)() const) {
+    return std::count_if(buttons.begin(), buttons.end(),
+                         [is](QPushButton* button) { return (button->*is)(); });
+  };
+  // A dialog without one says so of all its buttons: Enter is for its list.
+  EXPECT_EQ(count(&QPushButton::isDefault), count(&QPushButton::autoDefault) > 0 ? 1 : 0);
   QTest::keyClick(&dialog, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
 }
@@ -121,9 +128,11 @@ TEST(Forms, AreWellMade) {
     app::frmOptions options(station.context);
     app::frmAddMachine machine(station.context);
     textjob::frmLockImage lock(station.context, "A.TJB");
+    textjob::frmReorder reorder(station.context, [] {});
+    widgets::frmOffset offset({}, station.settings);
     app::frmAbout about(nullptr);
-    for (QDialog* dialog :
-         std::initializer_list<QDialog*>{&upload, &select, &options, &machine, &lock, &about}) {
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&upload, &select, &options, &machine, &lock,
+                                                           &reorder, &offset, &about}) {
       CheckDialog(*dialog);
     }
     fonts::frmFontView fontView(station.context);
