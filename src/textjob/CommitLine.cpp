@@ -29,7 +29,11 @@ bool NamesAFile(const common::Files& files, const std::string& name) try {
 std::string FileOfKind(const Edit& edit, std::string_view extension) {
   const PropertyRule* value = ValueRule(edit.before.Type);
   const std::size_t row = value != nullptr ? FindRow(edit.rows, value->label) : edit.rows.size();
-  const std::string kept = row < edit.rows.size() ? edit.rows[row].value : std::string();
+  std::string kept = row < edit.rows.size() ? edit.rows[row].value : std::string();
+  // A text that was a file's row before has the extension in it.
+  if (const std::size_t point = kept.find('.'); point != std::string::npos) {
+    if (common::EqualIgnoringCase(std::string_view(kept).substr(point), extension)) kept.resize(point);
+  }
   if (!kept.empty() && NamesAFile(edit.files, kept + std::string(extension))) return kept;
   const auto found = edit.files.List("*" + std::string(extension));
   return found.empty() ? std::string() : common::ToUpper(common::FileBaseName(found.front()));

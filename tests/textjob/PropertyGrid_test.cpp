@@ -188,6 +188,8 @@ TEST_F(PropertyGridTest, AChangedTypeOrStyleBringsItsValues) {
   } cases[] = {
       {normal, "Type", "Fill", "7," + place + "0,0,0,A.fil@@,2,0,1,0.000" + kTail},
       {normal, "Type", "Graphic", "2," + place + "0,0,0,LOGO.job@@,2,0,1,0.000" + kTail},
+      {"0,1,2,.5,A.fnt,0,0,0,0,b.FIL@@,2", "Type", "Fill",
+       "7," + place + "0,0,0,b.fil@@,2,0,1,0.000" + kTail},
       {normal, "Type", "Panel", "5," + place + "0,0,0,@@,2,0,1,0.000" + kTail},
       {normal, "Type", "Cap", "10," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
       {normal, "Type", "Serial", "1," + place + "1,0,0,1@@,2,0,1,0.000" + kTail},
