@@ -23,6 +23,16 @@ bool IsAngle(std::string_view label) {
   return label == "Angle" || label == "Rotate";
 }
 
+// A pasted text may have several lines, which a file would take for lines of the job.
+std::string OneLine(std::string text) {
+  for (const std::string_view end : {"\r\n", "\r", "\n"}) {
+    for (std::size_t at = text.find(end); at != std::string::npos; at = text.find(end, at)) {
+      text.replace(at, end.size(), " ");
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 template <typename Work>
@@ -70,7 +80,7 @@ void JobEditor::ReadRows(const TextJob& job, RowContext context) {
 bool JobEditor::CommitRow(std::size_t row, const std::string& value) {
   if (row >= rows_.size()) return false;
   const std::string visit = Visit(rows_[row].label);
-  CommitLine(parts_.job, rows_, row, value, context_, parts_.files);
+  CommitLine(parts_.job, rows_, row, OneLine(value), context_, parts_.files);
   return Changed(visit);
 }
 
@@ -82,7 +92,7 @@ bool JobEditor::StepRow(std::size_t row, int steps) {
 }
 
 bool JobEditor::SetComment(const std::string& comment) {
-  parts_.job.Comment = comment;
+  parts_.job.Comment = OneLine(comment);
   parts_.job.Dirty = true;
   return Changed(Visit("comment"));
 }

@@ -123,12 +123,13 @@ TEST_F(JobEditorTest, UndoTakesBackVisitsAndWhatAnOffsetMoved) {
   const std::string ini = fileSystem_.Get("/base/Morvane.ini");
   const std::vector<std::string> loaded = {"0,0,0,1,F.fnt,0,0,0,0,x@@", "4,1,2"};
   Load(loaded, "0");
-  Type("Text", {"xA", "xAB", "xABC"});
+  Type("Text", {"xA", "xAB", "xA\rBC"});
   Type("Text", {"xABCD"});
   EXPECT_TRUE(editor_.StepRow(FindRow(editor_.Rows(), "Angle"), 1) == false);
   EXPECT_TRUE(editor_.StepRow(FindRow(editor_.Rows(), "X pos"), -5));
   EXPECT_EQ(job_.Lines[0].substr(0, 6), "0,-0.5");
-  editor_.SetComment("c");
+  editor_.SetComment("c\r\nd\n");
+  EXPECT_EQ(job_.Comment, "c d ") << "a pasted line end would begin a job line in the file";
   editor_.Offset("1", "2abc", "");
   EXPECT_NE(fileSystem_.Get("/base/Morvane.ini"), ini);
   EXPECT_TRUE(editor_.Undo());
