@@ -62,7 +62,10 @@ void frmEdit::AddAction(const char* name, const QString& caption, const QList<QK
 }
 
 void frmEdit::Do(bool (JobEditor::*what)()) {
-  if ((editor_.*what)()) DrawJob();
+  if (!(editor_.*what)()) return;
+  // Other lines may stand under the same numbers: Escape must not bring a value of the former ones.
+  ui_->PropertyGrid->StartOver();
+  DrawJob();
 }
 
 void frmEdit::cmbLine_Click() {

@@ -221,9 +221,17 @@ TEST_F(frmEditTest, LinesGoOverTheClipboardAndABadOneIsToldOnce) {
   QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"DrawLine-Subscript out of range"});
   EXPECT_EQ(Control<widgets::CellGrid>("PropertyGrid").RowCount(), 0);
+  auto& grid = Control<widgets::CellGrid>("PropertyGrid");
   Control<QPushButton>("cmdDeleteLine").click();
   EXPECT_EQ(Lines().size(), 4);
-  EXPECT_EQ(Control<widgets::CellGrid>("PropertyGrid").RowCount(), 5);
+  EXPECT_EQ(grid.RowCount(), 5);
+  // The line behind a deleted one has its number, but not its values.
+  Form().SelectLine(0);
+  grid.SetCurrentCell(2, 1, false);
+  Control<QPushButton>("cmdDeleteLine").click();
+  const std::vector<std::string> left = station.job.Lines;
+  QTest::keyClick(&grid, Qt::Key_Escape);
+  EXPECT_EQ(station.job.Lines, left);
 }
 
 TEST_F(frmEditTest, OnlyLinesWithAFileOfTheirOwnHaveAnOpener) {
