@@ -62,7 +62,8 @@ void JobEditor::Saved() {
   history_.MarkSaved(parts_.job);
 }
 
-void JobEditor::ReadRows(const TextJob& job, RowContext context) {
+void JobEditor::ReadRows(RowContext context) {
+  const TextJob& job = parts_.job;
   context_ = std::move(context);
   try {
     rows_ = RowsOfSelection(job, context_);

@@ -43,9 +43,9 @@ class JobEditor {
   // The job lies in its file.
   void Saved();
 
-  // The rows of the selection, read anew after each pass from the job that it drew. Rows that cannot be shown
-  // are none, which is told once for each line.
-  void ReadRows(const TextJob& job, RowContext context);
+  // The rows of the selection, to be read anew after each change. Rows that cannot be shown are none, which
+  // is told once for each line.
+  void ReadRows(RowContext context);
   const PropertyGrid& Rows() const { return rows_; }
   // The current row, or what it belongs to, is another one: what comes is a step of its own for Undo.
   void EnterRow() { ++visit_; }

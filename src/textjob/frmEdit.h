@@ -87,7 +87,7 @@ class frmEdit : public QWidget {
   void PropertyGrid_Edited(int row, const QString& text);
   widgets::CellEditor ChooseEditor(int row) const;
   RowContext RowsContext();
-  void ShowRows(const TextJob& job);
+  void ShowRows();
   // The buttons of Undo and Redo, and the copy of unsaved changes.
   void KeepChanges();
   void EditFirstRow();
@@ -97,7 +97,7 @@ class frmEdit : public QWidget {
   void ShowPart(const platform::RecordingCanvas& drawing);
   // What stands around the drawing of a job. `loaded`: it is another job than the one shown so far.
   void ShowJob(bool loaded = false);
-  void ShowLines(const TextJob& job, const PreviewResult& result);
+  void ShowLines(const PreviewResult& result);
   void ShowLegend();
 
   const context::AppContext& context_;

@@ -25,7 +25,8 @@ constexpr int kShowPartAfter = 200;  // milliseconds
 void frmEdit::DrawJob() {
   if (drawing_) {
     drawAgain_ = true;
-    return;
+    // What is typed before that pass begins must meet the rows of the job as it stands.
+    return ShowRows();
   }
   do {
     drawAgain_ = false;
@@ -52,8 +53,8 @@ void frmEdit::RunPass(ClickSearch* search) {
                         drawing->Segments().size()});
   context_.progress.Clear();
   ShowLegend();
-  ShowLines(job, result);
-  if (search == nullptr) ShowRows(job);
+  ShowLines(result);
+  if (search == nullptr) ShowRows();
 }
 
 // A pass that waits for a side program shows what it has so far.
@@ -65,12 +66,14 @@ void frmEdit::ShowPart(const platform::RecordingCanvas& drawing) {
   context_.progress.Set(0, 0);
 }
 
-void frmEdit::ShowLines(const TextJob& job, const PreviewResult& result) {
+// The labels are those of the pass; all else may have changed meanwhile.
+void frmEdit::ShowLines(const PreviewResult& result) {
   const QScopedValueRollback<bool> guard(filling_, true);
   QListWidget& list = *ui_->cmbLine;
   const int count = static_cast<int>(result.labels.size());
   while (list.count() > count) delete list.takeItem(list.count() - 1);
   while (list.count() < count) list.addItem(QString());
+  const TextJob& job = context_.job;
   const std::vector<bool> selected = SelectedLines(job.Selection, result.labels.size());
   for (int row = 0; row < count; ++row) {
     const auto index = static_cast<std::size_t>(row);

@@ -76,8 +76,9 @@ RowContext frmEdit::RowsContext() {
   return rows;
 }
 
-void frmEdit::ShowRows(const TextJob& job) {
-  editor_.ReadRows(job, RowsContext());
+void frmEdit::ShowRows() {
+  const TextJob& job = context_.job;
+  editor_.ReadRows(RowsContext());
   std::vector<std::vector<QString>> cells;
   for (const PropertyRow& row : editor_.Rows()) cells.push_back({ToQt(row.label), ToQt(row.value)});
   const QScopedValueRollback<bool> guard(filling_, true);

@@ -17,8 +17,13 @@ void frmEdit::pic_MouseDown(const QPointF& world, Qt::MouseButton button, Qt::Ke
   if (drawing_) return;
   if (button == Qt::RightButton) return MoveTo(world);
   if (button != Qt::LeftButton) return;
-  ClickSearch search{static_cast<float>(world.x()), static_cast<float>(world.y())};
-  RunPass(&search);
+  ClickSearch search{};
+  // A job that changed during the search is searched anew.
+  do {
+    drawAgain_ = false;
+    search = {static_cast<float>(world.x()), static_cast<float>(world.y())};
+    RunPass(&search);
+  } while (drawAgain_);
   const bool toggle = modifiers.testFlag(Qt::ControlModifier);
   if (search.line >= 0) {
     editor_.Select(toggle ? ToggleLine(context_.job.Selection, search.line) : SelectLines({search.line}));

@@ -27,7 +27,7 @@ class JobEditorTest : public ::testing::Test {
     editor_.Select(selection);
     Draw();
   }
-  void Draw() { editor_.ReadRows(job_, rows_); }
+  void Draw() { editor_.ReadRows(rows_); }
   // Types into a row, one key after the other.
   void Type(const std::string& label, const std::vector<std::string>& values) {
     editor_.EnterRow();

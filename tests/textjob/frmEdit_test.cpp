@@ -307,5 +307,26 @@ TEST_F(SlowPass, TheEditorMayBeClosedMeanwhile) {
   EXPECT_FALSE(station.abort);
 }
 
+// What is typed in a pass, and in the one that follows it, meets the job as it stands.
+TEST_F(SlowPass, TypingMeanwhileIsNotLost) {
+  station.processes.scripts.push_back({true, 30, 0, {}});
+  station.folder.Write("SLOW.TJB", "16,1,1,1,,0,0,0,0,P.RAS@@,1\r\n4,1,2\r\n4,3,4\r\n");
+  auto& grid = Control<widgets::CellGrid>("PropertyGrid");
+  std::size_t acted = 0;
+  station.clock.onWait = [&](int) {
+    const platform::Operations::Scope scope(station.operations);
+    if (acted == station.processes.runs.size() || ++acted > 2) return;
+    if (acted == 1) Form().SelectLine(1);
+    grid.SetCurrentCell(acted == 1 ? 3 : 2, 1, false);
+    QTest::keyClick(&grid, Qt::Key_5);
+    QTest::keyClick(&Control<QLineEdit>("txtComments"), Qt::Key_A);
+  };
+  Open("SLOW.TJB");
+  EXPECT_GE(acted, 2U);
+  EXPECT_EQ(station.job.Lines[0], "16,1,1,1,,0,0,0,0,P.RAS@@,1");
+  EXPECT_EQ(station.job.Lines[1].substr(0, 41), "4,1,2.0005,0,.fnt,0,0,0,0,@@,0,0,15,0.000");
+  EXPECT_EQ(station.job.Comment, "aa");
+}
+
 }  // namespace
 }  // namespace morvane::test
