@@ -44,6 +44,8 @@ std::vector<Step> ReadLog(const std::string& text) {
 void LiveAndDie(std::vector<std::string> words, double seconds, bool fromLog) {
   const pid_t process = fork();
   if (process == 0) {
+    // A killed program leaves its temporary folders; they go with the log's.
+    setenv("TMPDIR", std::filesystem::path(words[2]).parent_path().c_str(), 1);
     std::vector<char*> arguments;
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
