@@ -24,7 +24,7 @@
 namespace morvane::app {
 namespace {
 
-constexpr int kTitleBar = 40;  // pixels at the top by which a window can be taken
+constexpr int kTitleBar = 40;  // pixels, at most; by it a window can be taken
 
 // The screen that shows the window's top; null when none does.
 const QScreen* ScreenOf(const QRect& place) {
@@ -41,7 +41,8 @@ QRect OnScreen(QRect place) {
   const QScreen* screen = ScreenOf(place);
   const QRect room = (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
   if (screen == nullptr) place.moveTo(room.topLeft());
-  const QSize size = place.size().boundedTo(room.size()).expandedTo(ToPixels(MainGeometry()).size());
+  const QSize most(room.width(), room.height() - kTitleBar);
+  const QSize size = place.size().boundedTo(most).expandedTo(ToPixels(MainGeometry()).size());
   if (size.width() != place.width()) place.moveLeft(room.left());
   if (size.height() != place.height()) place.moveTop(room.top());
   place.setSize(size);
