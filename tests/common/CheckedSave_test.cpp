@@ -4,10 +4,8 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/Failure.h"
 #include "support/FakeFileSystem.h"
@@ -74,7 +72,6 @@ TEST_F(CheckedSaveTest, LeavesAnotherSaversFileAloneUntilLeftoversAreCleared) {
 
 class CheckedSaveOnDisk : public ::testing::Test {
  protected:
-  void ExpectOneFile() { EXPECT_EQ(Listed(system_, folder_.Path()), Names{"A.TJB"}); }
   const test::TempFolder folder_;
   const std::string target_ = folder_ / "A.TJB";
   platform::PosixFileSystem system_;
@@ -105,27 +102,7 @@ TEST_F(CheckedSaveOnDisk, ALimitAtAnyByteKeepsTheOldFile) {
     EXPECT_EQ(folder_.Read("A.TJB"), "old bytes");
   }
   signal(SIGXFSZ, handler);
-  ExpectOneFile();
-}
-
-TEST_F(CheckedSaveOnDisk, AKillInMidSaveLeavesAWholeFile) {
-  platform::PosixClock clock;
-  const std::string texts[] = {std::string(300'000, 'a'), std::string(200'000, 'b')};
-  CheckedSave(system_, target_, texts[0]);
-  for (int round = 0; round < 25; ++round) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-      for (int i = 0;; ++i) CheckedSave(system_, target_, texts[i % 2]);
-    }
-    clock.Sleep(1 + round);
-    kill(child, SIGKILL);
-    ASSERT_EQ(waitpid(child, nullptr, 0), child);
-    const std::string bytes = folder_.Read("A.TJB");
-    EXPECT_TRUE(bytes == texts[0] || bytes == texts[1]) << round << ": " << bytes.size() << " bytes";
-  }
-  ClearSaveLeftovers(system_, folder_.Path());
-  ExpectOneFile();
+  EXPECT_EQ(Listed(system_, folder_.Path()), Names{"A.TJB"});
 }
 
 }  // namespace

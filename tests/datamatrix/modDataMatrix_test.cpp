@@ -11,10 +11,7 @@ TEST(modDataMatrix, ReadsEveryFieldAndWritesTheSameBytes) {
   const std::string bytes =
       "20x20\r\n1\r\n .02 \r\n\r\n\r\n\r\n\r\n\r\n\r\nA\r\nB\n\0\xFF$$YY$$\\x1D@ENDDM;"s + "@ENDDM@";
   const DataMatrixFile file = ParseDataMatrix(bytes, MissingMarker::Empties);
-  EXPECT_EQ(file.Density, "20x20");
-  EXPECT_TRUE(file.Reverse);
-  EXPECT_EQ(file.Spacing, " .02 ");
-  EXPECT_EQ(file.Delay, "");
+  EXPECT_TRUE(file.Density == "20x20" && file.Reverse && file.Spacing == " .02 " && file.Delay.empty());
   EXPECT_EQ(file.Content, "A\r\nB\n\0\xFF$$YY$$\\x1D@ENDDM;"s);
   EXPECT_EQ(FormatDataMatrix(file), bytes);
 }
@@ -50,14 +47,12 @@ TEST(modDataMatrix, PlaceholderHasTheSizeOfItsDensity) {
   }
 }
 
-TEST(modDataMatrix, SpacingAndDarkCharacter) {
+TEST(modDataMatrix, DefaultsAndAReversedSymbolWithoutSpacing) {
   DataMatrixFile file;
-  EXPECT_EQ(ModuleSpacing(file), 0.01F);
-  EXPECT_EQ(DarkModule(file), '*');
+  EXPECT_TRUE(ModuleSpacing(file) == 0.01F && DarkModule(file) == '*');
   file.Spacing.clear();
   file.Reverse = true;
-  EXPECT_EQ(ModuleSpacing(file), 0.001F);
-  EXPECT_EQ(DarkModule(file), ' ');
+  EXPECT_TRUE(ModuleSpacing(file) == 0.001F && DarkModule(file) == ' ');
 }
 
 }  // namespace

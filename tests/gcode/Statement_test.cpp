@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
 #include "common/Lines.h"
@@ -45,26 +46,24 @@ std::string DescribeLines(std::string_view text, bool fold) {
 }
 
 TEST(Statement, EveryFormOfTheDialect) {
-  const struct {
-    bool fold;
-    const char* lines;
-    const char* expected;
-  } cases[] = {{false, "G90\nG0\n G00X1Y2\ng01x1y1\nN10 anything\nG77X1Y1\n\n", "-|-|-|-|-|-|-"},
-               {false, "G00X1.250Y-3.5\nG01X1Y2Z3", "rapid X 1.25 Y -3.5|feed X 1 Y 2 Z 3"},
-               {false, "G00X5\nG01X5Z3\nG01X1Z3Y2", "rapid X 5|feed X 5|feed X 1 Y 2"},
-               {false, "G00Y5X3\nG01Y.5", "rapid Y 5|feed Y 0.5"},
-               {false, "G01XY\nG01XnanYinf", "feed X 0 Y 0|feed X 0 Y 0"},
-               {false, "G01X1.5abcY2e1mm\nG01X&H10Y 2", "feed X 1.5 Y 20|feed X 16 Y 2"},
-               {false, "G02X1Y2I3J4\nG03X1Y2I3J4K5\nG02XYIJ", "cw 1 2 3 4|ccw 1 2 3 4|cw 0 0 0 0"},
-               {false, "G02X1Y2I3\nG02X1Y2J3I4\nG03X1I3J4", "broken|broken|broken"},
-               {false, "G05T-.5I1J2P9\nG05T0I1J2P", "turn -0.5 1 2|turn 0 1 2"},
-               {false, "G05T2I1J1\nG05T2I1P1\nG05T2J1P1", "broken|broken|broken"},
-               {false, "M06T12\nM06T99999\nM06T", "#4 12|#4 32767|#4 0"},
-               {false, "W5\nG04P2\nI3\nENDFILE", "#5 0|#6 0|#6 0|#12 0"},
-               {false, "S12\nS9\nC8\nC\nVP50.5\nVF1.5\nVM2", "#7 1|#7 0|#8 8|#8 0|#9 50|#10 1.5|#11 2"},
-               {true, "g01x1y2z3\ng02X1y2I3j4\nG05t1i2j3p4", "feed X 1 Y 2 Z 3|cw 1 2 3 4|turn 1 2 3"},
-               {true, "w5\nvp80\nend", "#5 0|#9 80|#12 0"}};
-  for (const auto& c : cases) EXPECT_EQ(DescribeLines(c.lines, c.fold), c.expected) << c.lines;
+  using Case = std::array<const char*, 2>;
+  for (const auto& [lines, expected] :
+       {Case{"G90\nG0\n G00X1Y2\ng01x1y1\nN10 anything\nG77X1Y1\n\n", "-|-|-|-|-|-|-"},
+        Case{"G00X1.250Y-3.5\nG01X1Y2Z3", "rapid X 1.25 Y -3.5|feed X 1 Y 2 Z 3"},
+        Case{"G00X5\nG01X5Z3\nG01X1Z3Y2", "rapid X 5|feed X 5|feed X 1 Y 2"},
+        Case{"G00Y5X3\nG01Y.5", "rapid Y 5|feed Y 0.5"},
+        Case{"G01XY\nG01XnanYinf", "feed X 0 Y 0|feed X 0 Y 0"},
+        Case{"G01X1.5abcY2e1mm\nG01X&H10Y 2", "feed X 1.5 Y 20|feed X 16 Y 2"},
+        Case{"G02X1Y2I3J4\nG03X1Y2I3J4K5\nG02XYIJ", "cw 1 2 3 4|ccw 1 2 3 4|cw 0 0 0 0"},
+        Case{"G02X1Y2I3\nG02X1Y2J3I4\nG03X1I3J4", "broken|broken|broken"},
+        Case{"G05T-.5I1J2P9\nG05T0I1J2P", "turn -0.5 1 2|turn 0 1 2"},
+        Case{"G05T2I1J1\nG05T2I1P1\nG05T2J1P1", "broken|broken|broken"},
+        Case{"M06T12\nM06T99999\nM06T", "#4 12|#4 32767|#4 0"},
+        Case{"W5\nG04P2\nI3\nENDFILE", "#5 0|#6 0|#6 0|#12 0"},
+        Case{"S12\nS9\nC8\nC\nVP50.5\nVF1.5\nVM2", "#7 1|#7 0|#8 8|#8 0|#9 50|#10 1.5|#11 2"}})
+    EXPECT_EQ(DescribeLines(lines, false), expected) << lines;
+  EXPECT_EQ(DescribeLines("g01x1y2z3\ng02X1y2I3j4\nvp80\nend", true),
+            "feed X 1 Y 2 Z 3|cw 1 2 3 4|#9 80|#12 0");
 }
 
 TEST(GcodeProgram, KeepsStatementsWithTheirLines) {

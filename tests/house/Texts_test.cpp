@@ -8,16 +8,11 @@
 #include <set>
 #include <sstream>
 
+#include "common/Text.h"
 #include "house/Tree.h"
 
 namespace morvane::house {
 namespace {
-
-std::string Replaced(std::string text, const std::string& what, const std::string& by) {
-  for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
-    text.replace(at, what.size(), by);
-  return text;
-}
 
 bool IsLetter(const std::string& text, std::size_t at) {
   return at < text.size() && std::isalnum(static_cast<unsigned char>(text[at])) != 0;
@@ -26,7 +21,7 @@ bool IsLetter(const std::string& text, std::size_t at) {
 // The strings of a source, joined as the compiler joins them. Escapes lose their backslash.
 Strings StringsOf(const TreeFile& file) {
   const std::string& bytes = file.text;
-  if (file.Is(".ui")) return Between(Replaced(bytes, "&amp;", "&"), "<string>", "</string>");
+  if (file.Is(".ui")) return Between(common::ReplaceAll(bytes, "&amp;", "&"), "<string>", "</string>");
   Strings found;
   bool joins = false;  // only blanks since the last string
   for (std::size_t at = 0; at < bytes.size(); ++at) {
@@ -88,12 +83,12 @@ class Texts : public testing::Test {
   void ReadRows(const TreeFile& file) {
     for (const std::string& line : file.Lines()) {
       if (!line.starts_with("| `")) continue;
-      std::istringstream row(Replaced(line.substr(1), "\\|", "\x01"));
+      std::istringstream row(common::ReplaceAll(line.substr(1), "\\|", "\x01"));
       rows_.emplace_back();
       for (Strings& spans : rows_.back()) {
         std::string cell;
         std::getline(row, cell, '|');
-        spans = Between(Replaced(cell, "\x01", "|"), "`", "`");
+        spans = Between(common::ReplaceAll(cell, "\x01", "|"), "`", "`");
       }
     }
   }
@@ -102,18 +97,20 @@ class Texts : public testing::Test {
   void ReadSource(const TreeFile& file) {
     std::set<std::string>& parts = parts_[file.path];
     for (const std::string& string : StringsOf(file)) {
-      for (const std::string& part : FixedParts(string)) parts.insert({part, Replaced(part, "&", "")});
+      for (const std::string& part : FixedParts(string))
+        parts.insert({part, common::ReplaceAll(part, "&", "")});
     }
     parts.insert("");
     for (const std::string& text : Between(file.text, "MsgBox(\"", "\""))
-      boxes_.push_back(Replaced(text, "\\\\", "\\"));
+      boxes_.push_back(common::ReplaceAll(text, "\\\\", "\\"));
   }
 
   void ReadTests(const TreeFile& file) {
     const Strings strings = StringsOf(file);
     for (const char* head : {"\nTEST(", "\nTEST_F("}) {
       for (const std::string& name : Between(file.text, head, ")")) {
-        said_[Replaced(Replaced(Replaced(name, "\n", ""), " ", ""), ",", ".")] = strings;
+        said_[common::ReplaceAll(common::ReplaceAll(common::ReplaceAll(name, "\n", ""), " ", ""), ",", ".")] =
+            strings;
       }
     }
   }

@@ -36,18 +36,13 @@ TEST(RecordingCanvas, JoinsLinesOfOnePenAndKeepsTheOrder) {
     EXPECT_EQ(canvas->Texts()[0].text, "note");
     EXPECT_EQ(canvas->View()->Width, 9);
   }
-}
 
-TEST(RecordingCanvas, ClearKeepsTheScaleInForce) {
-  RecordingCanvas canvas;
-  DrawEverything(canvas);
-  canvas.Clear();
-  canvas.SetScale({5, 5, 5, 5});
-  ASSERT_EQ(canvas.Runs().size(), 1U);
-  RecordingCanvas copy;
-  canvas.Replay(copy);
-  EXPECT_EQ(copy.View()->Left, 5);
-  EXPECT_TRUE(canvas.Segments().empty());
+  // Clear keeps the scale in force.
+  first.Clear();
+  EXPECT_TRUE(first.Segments().empty());
+  copy = {};
+  first.Replay(copy);
+  EXPECT_EQ(copy.View()->Width, 9);
 }
 
 }  // namespace

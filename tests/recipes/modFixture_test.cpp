@@ -63,7 +63,6 @@ TEST(modFixture, PathEndsWhenFullAndAtAnEmptyLine) {
   for (std::size_t i = 0; i < kFixturePathPoints + 5; ++i) points += "1,1\r\n";
   EXPECT_EQ(ParseFixture(head + points).Path.size(), kFixturePathPoints);
   EXPECT_EQ(ParseFixture(head + "1,1\r\n\r\n2,2\r\n").Path, (std::vector<std::string>{"1,1"}));
-  EXPECT_EQ(ParseFixture(head + "1,1\r\n2,2").Path, (std::vector<std::string>{"1,1", "2,2"}));
 
   Fixture fixture = ParseFixture(head);
   fixture.Skip = "1,1\r\n2,2";  // stays on its line

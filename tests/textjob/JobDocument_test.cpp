@@ -5,7 +5,6 @@
 #include "support/FakeFileSystem.h"
 #include "support/FakePrompts.h"
 #include "textjob/PositionText.h"
-#include "textjob/Selection.h"
 
 namespace morvane::test {
 namespace {
@@ -73,15 +72,6 @@ TEST_F(JobDocumentTest, LeavingAChangedJob) {
     if (!c.leaves) {
       EXPECT_EQ(prompts_.boxes.at(1).text, "Save(A.TJB) Permission denied");
     }
-  }
-}
-
-TEST(Selection, ListsOfLines) {
-  EXPECT_EQ(textjob::SelectLines({}), "");
-  EXPECT_EQ(textjob::SelectLines({3, 7, 8}), "3,7,8");
-  const char* const toggles[][3] = {{"", "4", "4"}, {"4", "4", ""}, {"3,7,8", "7", "3,8"}, {"8", "3", "8,3"}};
-  for (const auto& [before, line, after] : toggles) {
-    EXPECT_EQ(textjob::ToggleLine(before, std::atoi(line)), after);
   }
 }
 

@@ -15,18 +15,24 @@ const std::string kWait = std::string("\r\n\r\n") + "Please Wait ...";
 
 // What one operation of the link puts on the wire.
 struct Sent {
-  const char* command;
-  const char* file = "";    // its one line, or its bytes
-  const char* marker = "";  // empty for a command or a binary file
+  std::string command;
+  std::string file = "";    // its one line, or its bytes
+  std::string marker = "";  // empty for a command or a binary file
 };
+
+Sent File(const std::string& name) {
+  if (!name.ends_with(".JOB")) return {"QT7250DFILE " + name, '<' + name + '>', "ENDFILE"};
+  return {"JOB " + name.substr(0, name.size() - 4), '<' + name + '>', "ENDJOB"};
+}
+
+const Sent kFixture = File("BASE.FIX");
 
 std::string Wire(bool network, const std::vector<Sent>& all) {
   std::string wire;
   for (const Sent& sent : all) {
-    const bool text = *sent.marker != '\0';
+    const bool text = !sent.marker.empty();
     if (text && !network) wire += "QT7250FILES COMMAND.COM\r\n";
-    wire += std::string(sent.command) + "\r\n" + sent.file + (text ? "\r\n" : "");
-    if (text) wire += std::string(sent.marker) + "\r\n";
+    wire += sent.command + "\r\n" + sent.file + (text ? "\r\n" + sent.marker + "\r\n" : "");
   }
   return wire;
 }
@@ -68,38 +74,29 @@ struct Station : test::LinkStation {
   bool fixture = false;
 };
 
-const Sent kGraphic = {"JOB G", "<G.JOB>", "ENDJOB"};
-const Sent kPanelFile = {"QT7250DFILE P.PAN", "<P.PAN>", "ENDFILE"};
-const Sent kDataMatrixFile = {"QT7250DFILE D.DM", "<D.DM>", "ENDFILE"};
-const Sent kFillFile = {"QT7250DFILE F.FIL", "<F.FIL>", "ENDFILE"};
-const Sent kImageFile = {"JOB I", "<I.JOB>", "ENDJOB"};
-const Sent kCaps = {"QT7250DFILE Default.cap", "<Default.cap>", "ENDFILE"};
-const Sent kScales = {"QT7250DFILE Default.sca", "<Default.sca>", "ENDFILE"};
-const Sent kClosed = {"JOB C", "<C.JOB>", "ENDJOB"};
-const Sent kPress = {"QT7250DFILE press.pre", "<press.pre>", "ENDFILE"};
-const Sent kFixture = {"QT7250DFILE BASE.FIX", "<BASE.FIX>", "ENDFILE"};
-
 TEST(JobTransfer, SendsWhatEachLineTypeNames) {
-  const Sent raster = {"QT7250DLBIN R.RAS,3,3", "\1\2", ""};
+  const Sent raster = {"QT7250DLBIN R.RAS,3,3", std::string("\0\1\2", 3), ""};
   struct Case {
     const char* settings;
-    bool fixture;
-    bool run;
+    bool fixture, run;
     std::vector<Sent> before;
     const char* job;  // command
     std::vector<Sent> after;
   };
-  const std::vector<Sent> all = {kGraphic, kPanelFile, kDataMatrixFile, kFillFile, kImageFile,
-                                 kCaps,    kScales,    kClosed,         kPress,    raster};
+  std::vector<Sent> all;
+  for (const std::string name :
+       {"G.JOB", "P.PAN", "D.DM", "F.FIL", "I.JOB", "Default.cap", "Default.sca", "C.JOB", "press.pre"})
+    all.push_back(File(name));
+  const std::vector<Sent> four(all.begin(), all.begin() + 4);
+  all.push_back(raster);
   // With images left out, I.JOB still goes for its Closed Path line.
-  const std::vector<Sent> noImages = {kGraphic, kPanelFile, kDataMatrixFile, kFillFile, kCaps,
-                                      kScales,  kClosed,    kPress,          raster,    kImageFile};
-  const std::vector<Sent> four = {kGraphic, kPanelFile, kDataMatrixFile, kFillFile};
-  const std::vector<Sent> fourFixed = {kGraphic, kPanelFile, kDataMatrixFile, kFillFile, kFixture};
+  std::vector<Sent> noImages = all;
+  std::rotate(noImages.begin() + 4, noImages.begin() + 5, noImages.end());
+  std::vector<Sent> fourFixed = four;
+  fourFixed.push_back(kFixture);
   const Case cases[] = {
-      {"", false, false, all, "QT7250DFILE A.TJB", {}},
-      {"Fixture=BASE.FIX\r\n", true, false, all, "QT7250DFILE A.TJB", {kFixture}},
       {"Fixture=BASE.FIX\r\n", false, false, all, "QT7250DFILE A.TJB", {}},
+      {"Fixture=BASE.FIX\r\n", true, false, all, "QT7250DFILE A.TJB", {kFixture}},
       {"DownloadAsTJB=1\r\nDontDownloadImages=1\r\n", true, false, noImages, "QT7250DFILE TJB.TJB", {}},
       {"DontDownloadImages=True\r\n", false, true, four, "QT7250DFILE A.TJB", {{"QT7250RUN A.TJB"}}},
       {"DownloadAsTJB=1\r\n", true, true, four, "QT7250DFILE TJB.TJB", {{"QT7250RUN TJB.TJB"}}},
@@ -122,13 +119,9 @@ TEST(JobTransfer, SendsWhatEachLineTypeNames) {
 
       std::vector<Sent> sent = c.before;
       const std::string job = station.AllTypes();
-      const std::string withoutEnd = job.substr(0, job.size() - 2);
-      sent.push_back({c.job, withoutEnd.c_str(), "ENDFILE"});
+      sent.push_back({c.job, job.substr(0, job.size() - 2), "ENDFILE"});
       sent.insert(sent.end(), c.after.begin(), c.after.end());
-      std::string wire = Wire(network, sent);
-      const std::size_t bytes = wire.find("R.RAS,3,3\r\n");
-      if (bytes != std::string::npos) wire.insert(bytes + 11, 1, '\0');
-      EXPECT_EQ(station.controller.wire, wire) << c.settings;
+      EXPECT_EQ(station.controller.wire, Wire(network, sent)) << c.settings;
       EXPECT_EQ(station.Boxes(), c.run ? "Morvane: Download and Run Complete" : "Morvane: Download Complete");
       EXPECT_FALSE(station.waitWindow.shown);
     }
@@ -151,25 +144,17 @@ TEST(JobTransfer, TellsWhatItDoes) {
 }
 
 TEST(JobTransfer, StopsAtTheFirstFailure) {
-  struct Case {
-    const char* text;
-    const char* boxes;
-    const char* wire;
-  };
-  const Case cases[] = {
-      {"NONE.FIL", "Morvane: DownloadFileTcp-File not found", ""},
-      {"..\\..\\ETC\\PASSWD",
-       "Morvane: This name leads out of the folder and is refused: ..\\..\\ETC\\PASSWD", ""},
-      {"C:\\X.FIL", "Morvane: This name leads out of the folder and is refused: C:\\X.FIL", ""},
-  };
-  for (const Case& c : cases) {
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [text, boxes] :
+       {Case{"NONE.FIL", "Morvane: DownloadFileTcp-File not found"},
+        Case{"..\\ETC\\X", "Morvane: This name leads out of the folder and is refused: ..\\ETC\\X"},
+        Case{"C:\\X.FIL", "Morvane: This name leads out of the folder and is refused: C:\\X.FIL"}}) {
     for (const bool run : {false, true}) {
       Station station(true);
-      station.Open(std::string("COMMENT,\r\n7,0,0,0,,0,0,0,0,") + c.text + "@@,1\r\n");
+      station.Open(std::string("COMMENT,\r\n7,0,0,0,,0,0,0,0,") + text + "@@,1\r\n");
       JobTransfer transfer = station.Transfer();
       EXPECT_FALSE(run ? transfer.DownloadAndRun() : transfer.Download());
-      EXPECT_EQ(station.Boxes(), c.boxes);
-      EXPECT_EQ(station.controller.wire, c.wire);
+      EXPECT_EQ(station.Boxes() + station.controller.wire, boxes);
       EXPECT_FALSE(station.waitWindow.shown);
     }
   }
@@ -214,42 +199,24 @@ TEST(JobTransfer, FetchesAJobAndItsFiles) {
 }
 
 TEST(JobTransfer, FetchesNothingThatWasNotChosen) {
-  struct Case {
-    std::vector<std::string> pick;
-    platform::Answer save;
-    bool dirty;
-    const char* boxes;
-    bool asked;  // the controller, for the job
-  };
-  using platform::Answer;
-  const Case cases[] = {
-      {{}, Answer::No, false, "", false},
-      {{"..\\UP.TJB"},
-       Answer::No,
-       false,
-       "Morvane: This name leads out of the folder and is refused: ..\\UP.TJB",
-       false},
-      {{"/etc/x\n"},
-       Answer::No,
-       false,
-       "Morvane: This name leads out of the folder and is refused: /etc/x?",
-       false},
-      {{"B.TJB"},
-       Answer::No,
-       true,
-       "Morvane: Do you want to save this job?; Upload: B.TJB\r\n\r\nTimeout waiting for controller",
-       true},
-  };
-  for (const Case& c : cases) {
+  using Case = std::tuple<std::vector<std::string>, bool, const char*>;
+  for (const auto& [pick, dirty, boxes] :
+       {Case{{}, false, ""},
+        Case{{"..\\UP.TJB"}, false, "Morvane: This name leads out of the folder and is refused: ..\\UP.TJB"},
+        Case{{"/etc/x\n"}, false, "Morvane: This name leads out of the folder and is refused: /etc/x?"},
+        Case{
+            {"B.TJB"},
+            true,
+            "Morvane: Do you want to save this job?; Upload: B.TJB\r\n\r\nTimeout waiting for controller"}}) {
     Station station(true);
     station.controller.replies["QT7250FILES *.TJB"] = {"x\r\nENDFILE\r\n"};
     station.Open("COMMENT,\r\n");
-    station.job.Dirty = c.dirty;
-    station.prompts.picks = {c.pick};
-    if (c.dirty) station.prompts.answers = {c.save};
+    station.job.Dirty = dirty;
+    station.prompts.picks = {pick};
+    if (dirty) station.prompts.answers = {platform::Answer::No};
     EXPECT_FALSE(station.Transfer().Upload());
-    EXPECT_EQ(station.Boxes(), c.boxes);
-    EXPECT_EQ(station.controller.wire.find("QT7250FILE ") != std::string::npos, c.asked);
+    EXPECT_EQ(station.Boxes(), boxes);
+    EXPECT_EQ(station.controller.wire.find("QT7250FILE ") != std::string::npos, dirty);
     EXPECT_EQ(station.document.Name(), "SUB\\A.TJB");
   }
 }

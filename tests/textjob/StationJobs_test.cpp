@@ -79,34 +79,6 @@ TEST_F(StationJobs, DrawWithoutAMessageWithEachFixture) {
   }
 }
 
-TEST_F(StationJobs, TypesHoldsOneOfEverything) {
-  std::set<std::int32_t> types;
-  std::set<std::pair<std::string, std::int32_t>> styles;
-  for (const TextJobLine& line : Load("TYPES.TJB")) {
-    types.insert(line.Type);
-    if (!IsTextLine(line.Type)) continue;
-    styles.insert({{"style", line.Style}, {"justify", line.Justify}, {"location", line.Location}});
-    styles.insert({"pro font", line.Width > 0 && line.Spacing > 0});
-  }
-  EXPECT_EQ(types.size(), static_cast<std::size_t>(kLineTypeCount));
-  EXPECT_EQ(styles.size(), 4U + 3U + 2U + 2U);
-}
-
-TEST_F(StationJobs, TheSampleFillsTheFirstViewAndStaysInside) {
-  Load("SAMPLE.TJB");
-  const auto view = station.Draw(raw).view;
-  float left = view.Width, top = view.Height, right = 0, bottom = 0;
-  for (const platform::Segment& s : station.canvas.Segments()) {
-    left = std::min({left, s.x1, s.x2});
-    right = std::max({right, s.x1, s.x2});
-    top = std::min({top, s.y1, s.y2});
-    bottom = std::max({bottom, s.y1, s.y2});
-  }
-  for (const float margin : {left, top, view.Width - right, view.Height - bottom}) {
-    EXPECT_NEAR(margin, 0.15F, 1e-4);
-  }
-}
-
 // What the program would save is what lies there, so that a first save changes nothing but what was edited.
 TEST_F(StationJobs, EveryDocumentIsAsTheProgramWritesIt) {
   ExpectUnchanged("*.TJB", [this](const std::string& bytes) {

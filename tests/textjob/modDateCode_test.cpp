@@ -25,36 +25,37 @@ class DateCode : public testing::Test {
 };
 
 TEST_F(DateCode, Tokens) {
-  const std::pair<const char*, const char*> cases[] = {{"YYYY", "2026"},
-                                                       {"YR", "26"},
-                                                       {"mmm", "Mar"},
-                                                       {"MMM", "MAR"},
-                                                       {"MM", "03"},
-                                                       {"DY", "68"},
-                                                       {"DJ", "068"},
-                                                       {"WY", "11"},
-                                                       {"HH", "2"},
-                                                       {"HR", "14"},
-                                                       {"MN", "05"},
-                                                       {"SS", "07"},
-                                                       {"YYYYY", "2026Y"},
-                                                       {"Lot MMM YY", "LOT MAR 26"},
-                                                       {"ADDRESS", "A09RE07"},
-                                                       {"yyyy-mm-dd", "2026-03-09"},
-                                                       {"Y D WW", "Y D WW"},
-                                                       {"DJ+5", "073"},
-                                                       {"DJ-5", "063"},
-                                                       {"DJ-", "068"},
-                                                       {"DJ+400", "468"},
-                                                       {"DJ-103", "-035"},
-                                                       {"DJ+5/DJ/DJ+55", "073/068/123"},
-                                                       {"DJ/DJ+5", "068/073"},
-                                                       {"DJ +5", "068 +5"},
-                                                       {"", ""},
-                                                       {"\xE9", "\xC9"},
-                                                       {"MMMM", "MARM"},
-                                                       {"DJ+99999999999999999999", "1000000000000068"}};
-  for (const auto& [pattern, text] : cases) EXPECT_EQ(Date(pattern), text) << pattern;
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [pattern, text] : {Case{"YYYY", "2026"},
+                                      Case{"YR", "26"},
+                                      Case{"mmm", "Mar"},
+                                      Case{"MMM", "MAR"},
+                                      Case{"MM", "03"},
+                                      Case{"DY", "68"},
+                                      Case{"DJ", "068"},
+                                      Case{"WY", "11"},
+                                      Case{"HH", "2"},
+                                      Case{"HR", "14"},
+                                      Case{"MN", "05"},
+                                      Case{"SS", "07"},
+                                      Case{"YYYYY", "2026Y"},
+                                      Case{"Lot MMM YY", "LOT MAR 26"},
+                                      Case{"ADDRESS", "A09RE07"},
+                                      Case{"yyyy-mm-dd", "2026-03-09"},
+                                      Case{"Y D WW", "Y D WW"},
+                                      Case{"DJ+5", "073"},
+                                      Case{"DJ-5", "063"},
+                                      Case{"DJ-", "068"},
+                                      Case{"DJ+400", "468"},
+                                      Case{"DJ-103", "-035"},
+                                      Case{"DJ+5/DJ/DJ+55", "073/068/123"},
+                                      Case{"DJ/DJ+5", "068/073"},
+                                      Case{"DJ +5", "068 +5"},
+                                      Case{"", ""},
+                                      Case{"\xE9", "\xC9"},
+                                      Case{"MMMM", "MARM"},
+                                      Case{"DJ+99999999999999999999", "1000000000000068"}})
+    EXPECT_EQ(Date(pattern), text) << pattern;
 }
 
 TEST_F(DateCode, DaysAndWeeksOfOddYears) {
@@ -73,24 +74,15 @@ TEST_F(DateCode, SectionsOfText) {
   fileSystem.Put(
       "/base/SERIALS.TJB",
       "COMMENT,1,\r\n0,0,0,0,F,0,0,0,0,x@@\r\n1,0,0,0,F,0,1,0,0,A100@@,1\r\n1,0,0,0,F,0,1,0,0,B200@@,1\r\n");
-  const std::pair<const char*, const char*> cases[] = {{"abc", "abc"},
-                                                       {"$$DD$$/$$MM$$", "09/03"},
-                                                       {"a$$$$b", "ab"},
-                                                       {"a$$b", "a$$b"},
-                                                       {"$$YY$$ $$YY$$ $$x", "26 26 $$x"},
-                                                       {"%%SERIALS.2%%", "B200"},
-                                                       {"%%serials.1%%!", "A100!"},
-                                                       {"%%SERIALS.3%%", "SERIALS"},
-                                                       {"%%SERIALS.x%%", "SERIALS"},
-                                                       {"%%NONE.1%%", "NONE"},
-                                                       {"%%12.2%%", "12"},
-                                                       {"%%NOTE%%", "NOTE"},
-                                                       {"%%%%", ""},
-                                                       {"50%", "50%"},
-                                                       {"%%a%%%%a%%", "aa"},
-                                                       {"%%../etc/passwd.1%%", ""},
-                                                       {"$$yyyy $$ $$%%x", "2026  $$%%x"}};
-  for (const auto& [text, expanded] : cases) EXPECT_EQ(Text(text), expanded) << text;
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [text, expanded] :
+       {Case{"abc", "abc"}, Case{"$$DD$$/$$MM$$", "09/03"}, Case{"a$$$$b", "ab"}, Case{"a$$b", "a$$b"},
+        Case{"$$YY$$ $$YY$$ $$x", "26 26 $$x"}, Case{"%%SERIALS.2%%", "B200"},
+        Case{"%%serials.1%%!", "A100!"}, Case{"%%SERIALS.3%%", "SERIALS"}, Case{"%%SERIALS.x%%", "SERIALS"},
+        Case{"%%NONE.1%%", "NONE"}, Case{"%%12.2%%", "12"}, Case{"%%NOTE%%", "NOTE"}, Case{"%%%%", ""},
+        Case{"50%", "50%"}, Case{"%%a%%%%a%%", "aa"}, Case{"%%../etc/passwd.1%%", ""},
+        Case{"$$yyyy $$ $$%%x", "2026  $$%%x"}})
+    EXPECT_EQ(Text(text), expanded) << text;
 }
 
 // A serial number that holds its own section would grow for ever.
@@ -102,25 +94,17 @@ TEST_F(DateCode, GrowingTextStopsAtTheLimit) {
 }
 
 TEST_F(DateCode, Escapes) {
-  const struct {
-    const char *text, *expanded;
-    bool told;
-  } cases[] = {{"abc", "abc", false},
-               {"\\x41\\x41\\x42", "AAB", false},
-               {"\\x1e\\X41", "\x1e\\X41", false},
-               {"\\x4", "\\x4", false},
-               {"\\x00\\x41", "\\x00\\x41", true},
-               {"\\x41\\x1A", "A\\x1A", true},
-               {"\\x41\\xzz\\x42", "A\\xzz\\x42", true},
-               {"\\x4G", "\x04", false},
-               {"\\xFF", "\xFF", false},
-               {"\\x5cx41", "A", false}};
-  for (const auto& c : cases) {
+  using Case = std::tuple<const char*, const char*, bool>;
+  for (const auto& [text, expanded, isTold] :
+       {Case{"\\x41\\x41\\x42", "AAB", false}, Case{"\\x1e\\X41", "\x1e\\X41", false},
+        Case{"\\x4", "\\x4", false}, Case{"\\x00\\x41", "\\x00\\x41", true},
+        Case{"\\x41\\x1A", "A\\x1A", true}, Case{"\\x41\\xzz\\x42", "A\\xzz\\x42", true},
+        Case{"\\x4G", "\x04", false}, Case{"\\xFF", "\xFF", false}, Case{"\\x5cx41", "A", false}}) {
     test::FakePrompts prompts;
-    EXPECT_EQ(ExpandEscapes(c.text, prompts), c.expanded) << c.text;
-    const std::vector<std::string> told(c.told ? 1 : 0,
+    EXPECT_EQ(ExpandEscapes(text, prompts), expanded) << text;
+    const std::vector<std::string> told(isTold ? 1 : 0,
                                         "Escape sequence code NULL(\\x00) and ^Z(\\x1A) are not supported.");
-    EXPECT_EQ(prompts.Texts(), told) << c.text;
+    EXPECT_EQ(prompts.Texts(), told) << text;
   }
 }
 

@@ -26,7 +26,7 @@ GreyImage Picture(std::size_t width, std::size_t height) {
 TEST(Pixbake, ABakedBitmapComesBackByteForByte) {
   ToolFolder folder;
   folder.MakeFolder("Temp");
-  for (const std::size_t width : {1, 2, 3, 4, 5, 127, 128, 129, 130, 131, 259, 641}) {
+  for (const std::size_t width : {1, 2, 3, 4, 127, 128, 129, 130, 259}) {
     SCOPED_TRACE(width);
     const std::string bitmap = pixbake::WriteBitmap(Picture(width, 7));
     folder.Write("Temp/temp.bmp", bitmap);

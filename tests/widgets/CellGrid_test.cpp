@@ -4,7 +4,6 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QDoubleValidator>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolButton>
@@ -78,12 +77,12 @@ class CellGridTest : public ::testing::Test {
   QPoint Middle(int row, int column) const {
     return grid_.visualRect(grid_.model()->index(row, column)).center();
   }
-  static void Wheel(QWidget& widget, QPointF at, int delta) {
-    QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+  void Wheel(int row, int delta) {
+    const QPointF at = Middle(row, 1);
+    QWheelEvent event(at, grid_.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
+    QCoreApplication::sendEvent(grid_.viewport(), &event);
   }
-  void Wheel(int row, int delta) { Wheel(*grid_.viewport(), Middle(row, 1), delta); }
   void Compose(const QString& preedit, const QString& commit) {
     QInputMethodEvent event(preedit, {});
     event.setCommitString(commit);
@@ -106,10 +105,8 @@ TEST_F(CellGridTest, KeysInTheGridChangeTheValue) {
   } keys[] = {{kText, Qt::Key_Space, {}, " ", "Text=ABC ", "ABC "},
               {kText, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@", "Text=ABC @", "ABC @"},
               {kText, Qt::Key_Escape, {}, "\x1b", "Text=ABC", "ABC"},
-              {kText, Qt::Key_Escape, {}, "\x1b", "", "ABC"},
               {kText, Qt::Key_Z, Qt::ControlModifier, "\x1a", "", "ABC"},
               {kText, Qt::Key_O, Qt::AltModifier, "o", "", "ABC"},
-              {kText, Qt::Key_Delete, {}, "\x7f", "", "ABC"},
               {kDpi, Qt::Key_5, {}, "5", "", "300"},
               {kDpi, Qt::Key_Backspace, {}, "\b", "", "300"},
               // What is typed stands, although the owner knows the number in its own form.
@@ -127,21 +124,13 @@ TEST_F(CellGridTest, KeysInTheGridChangeTheValue) {
     EXPECT_EQ(event.isAccepted(), key.told[0] != '\0') << key.key;
   }
   EXPECT_EQ(grid_.CellText(kX, 1), "1.000");
-  // The validator of the text box holds here too.
-  QDoubleValidator digits;
-  grid_.Editors().TextBox().setValidator(&digits);
-  Go(kX, false);
-  QTest::keyClicks(&grid_, "a2");
-  EXPECT_EQ(Told(), "X=1.0002");
 }
 
 TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
   Go(kX, true);
   EXPECT_EQ(Text().selectedText(), "1.000");
-  EXPECT_EQ(Text().accessibleName(), "X");
   QTest::keyClicks(&Text(), "2.5");
   EXPECT_EQ(Told(), "X=2 X=2. X=2.5");
-  EXPECT_EQ(rows_[kX][1], "2.500");
   Text().setCursorPosition(1);
   rows_.insert(rows_.begin(), {"Prompt", "?"});
   grid_.SetRows(rows_);
@@ -155,17 +144,11 @@ TEST_F(CellGridTest, AnOpenEditorOutlivesNewRows) {
   grid_.SetRows(rows_);
   EXPECT_EQ(Text().text(), "7.000");
   EXPECT_EQ(Text().cursorPosition(), 1);
-  grid_.SetCellText(kX + 1, 1, "8");
-  EXPECT_EQ(Text().text(), "8");
   rows_[kX + 1] = {"Y", "9"};
   grid_.SetRows(rows_);
   EXPECT_FALSE(grid_.EditorOpen());
   EXPECT_EQ(Focus(), &grid_);
   EXPECT_EQ(Value(), "9");
-  grid_.SetRows({});
-  grid_.OpenEditor();
-  QTest::keyClicks(&grid_, "a\b\r");
-  EXPECT_EQ(Told(), "");
 }
 
 TEST_F(CellGridTest, EscapeBringsBackWhatTheCellHeldWhenItWasEntered) {
@@ -173,11 +156,7 @@ TEST_F(CellGridTest, EscapeBringsBackWhatTheCellHeldWhenItWasEntered) {
   QTest::keyClicks(&Text(), "9\x1b");
   EXPECT_EQ(Told(), "X=9 X=1.000");
   EXPECT_EQ(Focus(), &grid_);
-  // Closing alone changes nothing, and another thing's value is not brought back.
-  grid_.OpenEditor();
-  QTest::keyClicks(&Text(), "4");
-  grid_.CloseEditor();
-  EXPECT_EQ(Value(), "4.000");
+  // Another thing's value is not brought back.
   grid_.StartOver();
   rows_[kX][1] = "6.000";
   grid_.SetRows(rows_);
@@ -206,20 +185,16 @@ TEST_F(CellGridTest, KeysGoThroughTheRowsAndOut) {
   grid_.SetEditorChooser(nullptr);
   grid_.SetHeaders({"Tool #", "Load", "Unload"});
   grid_.SetRows({{"1", "a", "b"}, {"2", "c"}});
-  grid_.SetCurrentCell(0, 1, true);
-  for (const char* value : {"b", "c", "", ""}) {
-    QTest::keyClick(Focus(), Qt::Key_Tab);
-    EXPECT_EQ(Text().text(), value);
-  }
-  EXPECT_EQ(Focus(), &after_);
+  grid_.SetCurrentCell(0, 2, true);
+  QTest::keyClick(Focus(), Qt::Key_Tab);
+  EXPECT_EQ(Text().text(), "c");
 }
 
 TEST_F(CellGridTest, AClickOpensTheEditorAndLeavingClosesIt) {
-  const std::tuple<int, int, const char*, const char*> clicks[] = {{kX, 0, "at 3", "txtSelect"},
-                                                                   {kType, 1, "at 1", "cmbSelect"},
-                                                                   {kDpi, 1, "at 2", "grid"},
-                                                                   {kText, 1, "at 0", "txtSelect"}};
-  for (const auto& [row, column, told, focus] : clicks) {
+  using Case = std::tuple<int, int, const char*, const char*>;
+  for (const auto& [row, column, told, focus] :
+       {Case{kX, 0, "at 3", "txtSelect"}, Case{kType, 1, "at 1", "cmbSelect"},
+        Case{kDpi, 1, "at 2", "grid"}}) {
     QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {}, Middle(row, column));
     EXPECT_EQ(Told(), told);
     EXPECT_EQ(Focus()->objectName(), focus);
@@ -227,15 +202,6 @@ TEST_F(CellGridTest, AClickOpensTheEditorAndLeavingClosesIt) {
   after_.setFocus();
   EXPECT_FALSE(grid_.EditorOpen());
   EXPECT_EQ(Focus(), &after_);
-  // Undo is the window's when the text box has none.
-  grid_.OpenEditor();
-  for (const bool own : {false, true}) {
-    QKeyEvent undo(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
-    undo.ignore();
-    QCoreApplication::sendEvent(&Text(), &undo);
-    EXPECT_EQ(undo.isAccepted(), own);
-    QTest::keyClicks(&Text(), "x");
-  }
 }
 
 TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
@@ -245,8 +211,6 @@ TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
   EXPECT_GT(list.view()->minimumWidth(), list.fontMetrics().horizontalAdvance(QString(60, 'W')));
   QTest::keyClicks(&list, "S");
   EXPECT_EQ(Told(), "Type=Serial");
-  Wheel(list, {5, 5}, -120);
-  EXPECT_EQ(list.currentText(), "Serial");
   // A value that is no choice is shown, and not told.
   rows_[kType][1] = "Other";
   grid_.SetRows(rows_);
@@ -255,9 +219,7 @@ TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
   WindowStation::Pump();
   QTest::keyClick(list.view(), Qt::Key_Home);
   QTest::keyClick(list.view(), Qt::Key_Return);
-  WindowStation::Pump();
   EXPECT_EQ(Told(), "Type=Normal");
-  EXPECT_EQ(Focus(), &list);
   Go(kFile, true);
   auto& button = Find<QToolButton>(grid_, "cmdSelectJob");
   EXPECT_EQ(button.toolTip(), "Open this file");
@@ -282,29 +244,17 @@ TEST_F(CellGridTest, TheWheelStepsTheCurrentValueAndScrollsElsewhere) {
   Wheel(kText, -120);
   EXPECT_LT(Text().y(), top);
   EXPECT_EQ(Text().geometry(), Cell());
-  window_.resize(500, 400);
-  QFont font = window_.font();
-  font.setPointSize(30);
-  window_.setFont(font);
-  WindowStation::Pump();
-  EXPECT_EQ(Text().geometry(), Cell());
-  EXPECT_GT(Text().height(), QFontMetrics(font).height());
 }
 
 TEST_F(CellGridTest, InputMethodsTypeIntoTheGrid) {
   Go(kText, false);
-  EXPECT_TRUE(grid_.testAttribute(Qt::WA_InputMethodEnabled));
   Compose({}, "\u00EA");
   EXPECT_EQ(Told(), QString("Text=ABC\u00EA"));
-  Compose("ni", {});
   Compose("nih", {});
   EXPECT_EQ(Value(), QString("ABC\u00EAnih"));
   EXPECT_EQ(Told(), "") << "not before it is finished";
   Compose({}, "x");
   EXPECT_EQ(Told(), QString("Text=ABC\u00EAx"));
-  Go(kDpi, false);
-  Compose({}, "5");
-  EXPECT_EQ(Value(), "300");
 }
 
 }  // namespace

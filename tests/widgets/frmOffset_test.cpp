@@ -16,7 +16,6 @@ TEST(frmOffset, AsksForWhatItsCallerNeeds) {
     widgets::OffsetRequest request;
     const char* texts;
   } cases[] = {{{"Offset TJB File", true, false}, "1.5,0,-2"},
-               {{"Offset Pallet File", false, false, "", "x"}, "1.5,x,0"},
                {{"Offset Job File", false, true, "-1.000", "2"}, "1.5,2,0"}};
   for (const auto& [request, texts] : cases) {
     widgets::frmOffset form(request, station.settings);

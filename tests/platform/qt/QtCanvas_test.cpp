@@ -22,10 +22,10 @@ constexpr platform::Color kBlue = 255 * 65536;
 class QtCanvasTest : public ::testing::Test {
  protected:
   // A surface of 100 by 50 pen pixels that shows the world from (0, 0) to (10, 5).
-  QImage Paint(double ratio, const std::function<void(platform::Canvas&)>& draw, std::size_t smooth = 0) {
+  QImage Paint(double ratio, const std::function<void(platform::Canvas&)>& draw) {
     QImage image(QSize(100, 50) * ratio, QImage::Format_RGB32);
     QPainter painter(&image);
-    platform::QtCanvas canvas(painter, {image.size(), ratio, Qt::white, smooth}, pictures_);
+    platform::QtCanvas canvas(painter, {image.size(), ratio, Qt::white, 0}, pictures_);
     canvas.Clear();
     canvas.SetScale({0, 0, 10, 5});
     draw(canvas);
@@ -98,30 +98,6 @@ TEST_F(QtCanvasTest, CirclesTextAndLargeCirclesLieWhereTold) {
   EXPECT_GT(Count(image, QRect(60, 10, 20, 20), Qt::red), 10);
 }
 
-TEST_F(QtCanvasTest, ManyLinesAreNoLongerSmoothed) {
-  const auto slope = [](platform::Canvas& canvas) { canvas.Line({kRed, 1}, {1, 1, 9, 3}); };
-  const auto clear = [](const QImage& image) {
-    return Count(image, image.rect(), Qt::white) + Count(image, image.rect(), Qt::red);
-  };
-  EXPECT_LT(clear(Paint(1, slope, 100)), 5000 - 20) << "with shades between";
-  EXPECT_EQ(clear(Paint(1, slope, 1)), 5000);
-}
-
-// A bitmap of 4 by 1 pixels in the run-length form: two red ones, two blue ones.
-std::string RunLengthBitmap() {
-  std::string bytes = "BM";
-  const auto add = [&](std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i & 255);
-  };
-  const std::string pixels = {2, 0, 2, 1, 0, 0, 0, 1};
-  const std::uint32_t start = 14 + 40 + 8;
-  add(start + 8, 4), add(0, 4), add(start, 4);
-  add(40, 4), add(4, 4), add(1, 4), add(1, 2), add(8, 2), add(1, 4), add(8, 4), add(0, 4), add(0, 4);
-  add(2, 4), add(2, 4);
-  add(0x00FF0000, 4), add(0x000000FF, 4);  // red and blue, as the form has them
-  return bytes + pixels;
-}
-
 TEST_F(QtCanvasTest, PicturesAreKnownByTheirContentAndReadAnewWhenTheyChange) {
   QImage half(4, 1, QImage::Format_RGB32);
   half.fill(Qt::red);
@@ -140,10 +116,6 @@ TEST_F(QtCanvasTest, PicturesAreKnownByTheirContentAndReadAnewWhenTheyChange) {
     EXPECT_TRUE(inside.red() > 240 && inside.green() < 16 && inside.blue() < 16) << bytes.substr(0, 4);
     EXPECT_EQ(image.pixelColor(15, 20), QColor(Qt::white));
   }
-  folder_.Write("RUNS.RLE", RunLengthBitmap());
-  const QImage runs = Paint(1, [](platform::Canvas& canvas) { canvas.Image("RUNS.RLE", {0, 0, 10, 5}); });
-  EXPECT_EQ(runs.pixelColor(10, 25), QColor(Qt::red));
-  EXPECT_EQ(runs.pixelColor(90, 25), QColor(Qt::blue));
 }
 
 }  // namespace

@@ -107,19 +107,5 @@ TEST_F(QtSerialPort, APortThatIsPulledOutClosesOnce) {
   EXPECT_NE(port.Open(1, kLine), "");
 }
 
-TEST_F(QtSerialPort, AFloodWaitsAtTheOtherEnd) {
-  ASSERT_EQ(port.Open(1, kLine), "");
-  const std::string block(4096, 'x');
-  std::size_t sent = 0;
-  for (int round = 0; round < 200; ++round) {
-    const ssize_t count = write(machine, block.data(), block.size());
-    if (count > 0) sent += static_cast<std::size_t>(count);
-    QTest::qWait(1);
-  }
-  EXPECT_LT(sent, 200u * 1024);
-  std::size_t taken = 0;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return (taken += port.Input(1 << 20).size()) == sent; }));
-}
-
 }  // namespace
 }  // namespace morvane::test
