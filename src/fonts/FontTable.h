@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <set>
 #include <string>
 
 namespace morvane::fonts {
@@ -25,6 +26,8 @@ struct FontTable {
   std::array<std::string, kFontCodes> FontChars;
   // As it was given. Comparing it with a wanted name decides whether the font must be read again.
   std::string FontName;
+  // Names that could not be loaded, which the user knows.
+  std::set<std::string> missing;
   // Rises with every load, so that what was derived from the table knows when it is stale.
   std::uint64_t version = 0;
 };

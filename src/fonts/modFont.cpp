@@ -63,9 +63,13 @@ bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, cons
   }
   try {
     ReadFont(files.Read(file), table);
+    table.missing.erase(name);
     return true;
   } catch (const RunTimeError& error) {
-    prompts.MsgBox("Font File Error: " + error.description());
+    const bool first = table.missing.insert(name).second;
+    if (first || origin == FontOrigin::Operator) {
+      prompts.MsgBox("Font File Error: " + error.description());
+    }
     return false;
   }
 }

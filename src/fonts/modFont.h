@@ -17,7 +17,8 @@ enum class FontOrigin { Operator, Document };
 
 // Sets `FontName` first, then reads the file over the entries: a file shorter than the last one leaves
 // old entries behind. A name without an extension, or with another, means NAME.fnt. On failure shows
-// "Font File Error: " and returns false; a document's name that leads outside is refused silently.
+// "Font File Error: " and returns false; a document's name that leads outside is refused silently, and one
+// that failed before too: lines of other fonts make each drawing pass try it again.
 bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, const common::Files& files,
               platform::Prompts& prompts);
 // Puts a file's lines into the table from entry 1 on; lines behind the 255th are ignored.

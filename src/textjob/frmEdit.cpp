@@ -9,6 +9,7 @@
 #include "common/FileNames.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
+#include "fonts/FontTable.h"
 #include "platform/qt/QtText.h"
 #include "textjob/JobFile.h"
 #include "textjob/JobTransfer.h"
@@ -87,6 +88,7 @@ void frmEdit::ShowJob(bool loaded) {
     editor_.Loaded();
     ui_->PropertyGrid->CloseEditor();
     shownSelection_.clear();
+    context_.font.missing.clear();
   } else if (!context_.job.Dirty) {
     editor_.Saved();
   }

@@ -335,6 +335,8 @@ TEST_F(Preview, AMissingFontIsToldOnceForEachName) {
   station.Draw({TextLine("0,0,0,0", "L", "1"), other, other});
   EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"Font File Error: File not found"});
   EXPECT_EQ(Lines(kCyan, 2).size(), 6U) << "drawn with the entries that stand";
+  station.Draw({other, TextLine("0,0,0,0", "L", "1"), other});
+  EXPECT_EQ(station.prompts.boxes.size(), 1U) << "every key in the editor draws anew";
   station.Put("BAD.FNT", std::string(75, '\n') + "x:0,0,1,1\r\n");
   station.Draw({"0,0,0,1,BAD,0,0,0,0,L@@,1", "15,0,0,0,,0,0,0,0,@@,", TextLine("0,0,0,0", "|", "1")});
   EXPECT_EQ(Lines(kCyan, 2).size(), 1U) << "a bad character leaves out its line only";
