@@ -18,40 +18,37 @@ QString Plain(const QString& caption) {
 }
 
 // Menus and captions in their order; "*" marks the entries that only engineers see.
-const std::pair<const char*, std::vector<const char*>> kPromised[] = {
-    {"File",
-     {"Open", "Edit", "Offset", "Close", "Save", "Save As...", "Download", "Verify", "Upload", "Print",
-      "Exit"}},
-    {"Production", {"Select", "Manage"}},
+const std::pair<const char*, const char*> kPromised[] = {
+    {"File", "Open|Edit|Offset|Close|Save|Save As...|Download|Verify|Upload|Print|Exit"},
+    {"Production", "Select|Manage"},
     {"Graphic",
-     {"Download", "Upload", "Import", "Optimize", "Generate", "View", "Edit Code", "New Code",
-      "Jog and Teach Viewer", "Check Measurements", "Run G-Code", "Open TEXTJOB.JOB*", "Upload TEXTJOB.JOB"}},
-    {"Raster", {"Download", "Import"}},
-    {"Queue", {"Add Job(s)", "View"}},
-    {"Data Matrix", {"New", "Edit", "Decode", "Download", "Upload"}},
-    {"Font", {"Download", "Upload", "View", "Edit", "Create"}},
+     "Download|Upload|Import|Optimize|Generate|View|Edit Code|New Code|Jog and Teach Viewer|Check "
+     "Measurements|Run G-Code|Open TEXTJOB.JOB*|Upload TEXTJOB.JOB"},
+    {"Raster", "Download|Import"},
+    {"Queue", "Add Job(s)|View"},
+    {"Data Matrix", "New|Edit|Decode|Download|Upload"},
+    {"Font", "Download|Upload|View|Edit|Create"},
     {"View",
-     {"History", "Detailed History", "Options...", "Tool Path", "Grid Lines", "Reference Marks",
-      "Background Image", "Fixture", "Refresh"}},
-    {"Fixture", {"Modify", "Download", "Upload"}},
-    {"Fill", {"Modify", "Edit Pumps", "Download", "Upload"}},
-    {"Cap", {"Modify", "Download", "Upload"}},
-    {"Scale", {"Modify", "Download", "Upload"}},
-    {"Pallet", {"Modify", "Download", "Upload"}},
-    {"Pressure", {"Modify", "Download", "Upload"}},
-    {"Panel", {"Modify", "Download", "Upload"}},
-    {"Target", {"Modify", "Download", "Upload"}},
-    {"Data Server", {"Configure", "Start", "Stop", "Refresh"}},
-    {"Remote", {}},
-    {"Remote Diag", {}},
+     "History|Detailed History|Options...|Tool Path|Grid Lines|Reference Marks|Background "
+     "Image|Fixture|Refresh"},
+    {"Fixture", "Modify|Download|Upload"},
+    {"Fill", "Modify|Edit Pumps|Download|Upload"},
+    {"Cap", "Modify|Download|Upload"},
+    {"Scale", "Modify|Download|Upload"},
+    {"Pallet", "Modify|Download|Upload"},
+    {"Pressure", "Modify|Download|Upload"},
+    {"Panel", "Modify|Download|Upload"},
+    {"Target", "Modify|Download|Upload"},
+    {"Data Server", "Configure|Start|Stop|Refresh"},
+    {"Remote", ""},
+    {"Remote Diag", ""},
     {"Setup",
-     {"Download", "Upload", "Modify", "Tools", "Security", "Periodic Events", "Shifts", "Download Software",
-      "Download Date/Time", "Reboot Machine*", "Auto Test*"}},
+     "Download|Upload|Modify|Tools|Security|Periodic Events|Shifts|Download Software|Download "
+     "Date/Time|Reboot Machine*|Auto Test*"},
     {"Backup",
-     {"Backup Controller", "Restore Controller", "Upload Files", "Download Files", "Delete Controller File",
-      "Open FTP for Upload"}},
-    {"Help", {"Send Diagnostics Info To Morvane...", "About Morvane..."}},
-};
+     "Backup Controller|Restore Controller|Upload Files|Download Files|Delete Controller File|Open FTP for "
+     "Upload"},
+    {"Help", "Send Diagnostics Info To Morvane...|About Morvane..."}};
 
 TEST(MenuTable, TheBarHoldsEveryPromisedEntryInItsOrder) {
   WindowStation station;
@@ -68,7 +65,7 @@ TEST(MenuTable, TheBarHoldsEveryPromisedEntryInItsOrder) {
         found << Plain(entry->text()) + (entry->isVisible() ? "" : "*");
       }
     }
-    EXPECT_EQ(found, QStringList(entries.begin(), entries.end())) << caption;
+    EXPECT_EQ(found.join('|'), entries) << caption;
   }
 }
 
@@ -107,9 +104,8 @@ TEST(MenuTable, BehindEachEntryIsAWindowADocumentOrAWordThatItIsMissing) {
       {"mnuFileSave", "frmEdit"},     {"mnuFileSaveAs", "frmEdit"},
       {"mnuViewRefresh", "frmEdit"},  {"mnuGraphicView", "frmGraphic"},
       {"mnuFontView", "frmFontView"}, {"mnuGraphicOpenLastJob", "frmGraphic"}};
-  const std::map<std::string, std::string> dialogs = {{"mnuHelpAbout", "frmAbout"},
-                                                      {"mnuViewOptions", "frmOptions"},
-                                                      {"mnuFileOffset", "frmOffset"}};
+  const std::map<std::string, std::string> dialogs = {
+      {"mnuHelpAbout", "frmAbout"}, {"mnuViewOptions", "frmOptions"}, {"mnuFileOffset", "frmOffset"}};
   for (const app::MenuEntry& entry : app::MenuEntries()) {
     SCOPED_TRACE(entry.name);
     WindowStation station;

@@ -101,23 +101,13 @@ TEST_F(TransferMenu, FetchedGraphicsAreShownWhenAskedFor) {
 TEST_F(TransferMenu, TheEditorsButtonsSendRunAndFetch) {
   station.folder.Write("A.TJB", "COMMENT,1\r\n7,1,1,1,,0,0,0,0,A.FIL@@,1\r\n");
   station.windows.OpenFile(station.folder / "A.TJB");
-  auto& download = Find<QPushButton>(station.Active<textjob::frmEdit>(), "cmdDownload");
-  download.setFocus();
-  Press("cmdDownload");
-  EXPECT_TRUE(download.hasFocus());
-  EXPECT_EQ(Last(), "Download Complete");
-  EXPECT_TRUE(station.controller.wire.starts_with("QT7250DFILE A.FIL\r\n")) << station.controller.wire;
   Press("cmdDownloadRun");
   EXPECT_EQ(Last(), "Download and Run Complete");
   EXPECT_TRUE(station.controller.wire.ends_with("QT7250RUN A.TJB\r\n"));
   station.controller.replies["QT7250FILES"] = {"NEW.TJB\r\nENDFILE\r\n"};
   station.prompts.picks = {{"NEW.TJB"}};
   Press("cmdUpload");
-  EXPECT_EQ(station.job.Comment, "2");
   EXPECT_EQ(Find<QComboBox>(station.Active<textjob::frmEdit>(), "cmbFile").currentText(), "NEW.TJB");
-  station.prompts.files = {{station.folder / "A.TJB"}};
-  station.Entry("mnuFileVerify").trigger();
-  EXPECT_TRUE(Last().starts_with("A.TJB differs in line 1")) << Last();
 }
 
 TEST_F(TransferMenu, AnotherJobMayBeOpenedAndNoSecondCommandRunsMeanwhile) {
@@ -138,24 +128,6 @@ TEST_F(TransferMenu, AnotherJobMayBeOpenedAndNoSecondCommandRunsMeanwhile) {
   EXPECT_EQ(station.prompts.boxes[1].text,
             "The link to the machine is in use. Please wait until it is free.");
   EXPECT_EQ(station.job.Comment, "other");
-}
-
-TEST_F(TransferMenu, TheProgramAndTheEditorCloseInMidTransfer) {
-  station.windows.OpenFile(station.folder / "A.TJB");
-  station.tcp.answers = false;
-  Meanwhile([&] { station.Entry("mnuFileClose").trigger(); });
-  Press("cmdDownload");
-  WindowStation::Pump();
-  EXPECT_EQ(station.Frame().ActiveForm(), nullptr);
-  EXPECT_LT(station.clock.seconds, 5) << "not waited for";
-  bool unloaded = false;
-  QObject::connect(&station.Frame(), &app::frmMain::Unloaded, [&] { unloaded = true; });
-  station.prompts.files = {{station.folder / "A.TJB"}};
-  Meanwhile([&] { station.Frame().close(); });
-  station.Entry("mnuFileDownload").trigger();
-  WindowStation::Pump();
-  EXPECT_TRUE(unloaded);
-  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>());
 }
 
 }  // namespace

@@ -39,28 +39,21 @@ TEST_F(CliLink, EveryCommandOverBothTransports) {
     folder.Write("A.TXT", text);
     folder.Write("P.RAS", bytes);
     folder.Write("LOGO.JOB", "G0 X1\r\n");
-    struct Case {
-      const char* arguments;
-      const char* said;  // by the machine
-      const char* out;
-    };
-    const Case cases[] = {{"link check", nullptr, nullptr},
-                          {"link put A.TXT", "stored A.TXT, 12 bytes", nullptr},
-                          {"link putbin P.RAS", "stored P.RAS, 4 bytes", nullptr},
-                          {"link putjob LOGO.JOB", "stored LOGO.JOB, 7 bytes", nullptr},
-                          {"link files '*.*'", nullptr, "A.TXT\nLOGO.JOB\nP.RAS\n"},
-                          {"link jobs", nullptr, "LOGO\n"},
-                          {"link get A.TXT B.TXT", "sent A.TXT", nullptr},
-                          {"link run A.TXT", "ran A.TXT", nullptr},
-                          {"link runwait A.TXT", "ran A.TXT", nullptr},
-                          {"link gcode 'G0 X1'", "G-code G0 X1", nullptr},
-                          {"link date", "clock set to 03/09/26 14:05:07", nullptr},
-                          {"link delete P.RAS", "deleted P.RAS", nullptr}};
-    for (const Case& c : cases) {
-      SCOPED_TRACE(c.arguments);
-      ASSERT_EQ(Run(c.arguments), 0) << folder.errors;
-      EXPECT_TRUE(c.said == nullptr || simulator.WaitFor(c.said));
-      EXPECT_EQ(out, c.out != nullptr ? c.out : out);
+    using Case = std::tuple<const char*, const char*, const char*>;  // said by the machine, printed
+    for (const auto& [arguments, said, printed] :
+         {Case{"link check", nullptr, nullptr}, Case{"link put A.TXT", "stored A.TXT, 12 bytes", nullptr},
+          Case{"link putbin P.RAS", "stored P.RAS, 4 bytes", nullptr},
+          Case{"link putjob LOGO.JOB", "stored LOGO.JOB, 7 bytes", nullptr},
+          Case{"link files '*.*'", nullptr, "A.TXT\nLOGO.JOB\nP.RAS\n"}, Case{"link jobs", nullptr, "LOGO\n"},
+          Case{"link get A.TXT B.TXT", "sent A.TXT", nullptr}, Case{"link run A.TXT", "ran A.TXT", nullptr},
+          Case{"link runwait A.TXT", "ran A.TXT", nullptr},
+          Case{"link gcode 'G0 X1'", "G-code G0 X1", nullptr},
+          Case{"link date", "clock set to 03/09/26 14:05:07", nullptr},
+          Case{"link delete P.RAS", "deleted P.RAS", nullptr}}) {
+      SCOPED_TRACE(arguments);
+      ASSERT_EQ(Run(arguments), 0) << folder.errors;
+      EXPECT_TRUE(said == nullptr || simulator.WaitFor(said));
+      EXPECT_EQ(out, printed != nullptr ? printed : out);
     }
     EXPECT_EQ(folder.Read("B.TXT"), text);
     EXPECT_EQ(simulator.machine.Read("A.TXT"), text);
@@ -100,19 +93,16 @@ TEST_F(CliLink, HostileNamesLeadNowhere) {
   folder.Write("base/Morvane.ini", std::string("[Settings]\r\nComPort=5\r\nIP=") + kAddress + "\r\n");
   const auto before = folder.Names();
   const std::string refused = "Morvane: This name leads out of the folder and is refused: ";
-  struct Case {
-    const char* arguments;
-    std::string error;
-  };
-  const Case cases[] = {{"job upload '..\\evil.tjb'", refused + "..\\EVIL.TJB\n"},
-                        {"job upload ../EVIL.TJB", refused + "../EVIL.TJB\n"},
-                        {"job upload 'C:\\EVIL.TJB'", refused + "C:\\EVIL.TJB\n"},
-                        {"job upload NONE.TJB", "Select File: Not in the list: NONE.TJB\n"},
-                        {"link get ../EVIL.TJB", refused + "../EVIL.TJB\n"},
-                        {"job download ../NONE.TJB", "Morvane: Load(../NONE.TJB) File not found\n"}};
-  for (const Case& c : cases) {
-    EXPECT_EQ(folder.Run(std::string("morvane-cli --base base ") + c.arguments), 1) << c.arguments;
-    EXPECT_EQ(folder.errors, c.error);
+  using Case = std::pair<const char*, std::string>;
+  for (const auto& [arguments, error] :
+       {Case{"job upload '..\\evil.tjb'", refused + "..\\EVIL.TJB\n"},
+        Case{"job upload ../EVIL.TJB", refused + "../EVIL.TJB\n"},
+        Case{"job upload 'C:\\EVIL.TJB'", refused + "C:\\EVIL.TJB\n"},
+        Case{"job upload NONE.TJB", "Select File: Not in the list: NONE.TJB\n"},
+        Case{"link get ../EVIL.TJB", refused + "../EVIL.TJB\n"},
+        Case{"job download ../NONE.TJB", "Morvane: Load(../NONE.TJB) File not found\n"}}) {
+    EXPECT_EQ(folder.Run(std::string("morvane-cli --base base ") + arguments), 1) << arguments;
+    EXPECT_EQ(folder.errors, error);
   }
   auto after = folder.Names();
   for (const char* name : {"base/Temp", "base/Temp/tmp.lst"}) after.erase(name);

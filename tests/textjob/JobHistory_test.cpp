@@ -127,17 +127,6 @@ TEST_F(JobHistoryTest, SettingsAndLockRecordComeBack) {
   EXPECT_TRUE(history_.CanRedo()) << "nothing changed";
 }
 
-TEST_F(JobHistoryTest, AChangeThatWasNotNotedIsNotLost) {
-  Edit("4,2,2");
-  job_.Comment = "typed";
-  ASSERT_TRUE(history_.Undo(job_));
-  EXPECT_EQ(job_.Comment + job_.Lines[0], "loaded4,2,2");
-  job_.Lines.clear();
-  EXPECT_FALSE(history_.Redo(job_)) << "what was undone no longer fits";
-  ASSERT_TRUE(history_.Undo(job_));
-  EXPECT_EQ(job_.LineCount(), 3U);
-}
-
 TEST_F(JobHistoryTest, ManyStepsAreKeptInBoundedMemory) {
   for (int i = 0; i < 6000; ++i) Edit("4," + std::to_string(i));
   std::size_t steps = 0;

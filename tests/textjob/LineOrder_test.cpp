@@ -17,9 +17,6 @@ TEST(LineOrder, EntriesNameTheLineAndItsPlace) {
       {"", "  (0,0)"},
       {"99,x", "  (0,0)"}};
   for (const auto& [line, entry] : entries) EXPECT_EQ(LineEntry(line), entry) << line;
-  TextJob job;
-  job.Lines = {"4,1,1", "12,2,2"};
-  EXPECT_EQ(textjob::LineEntries(job), (std::vector<std::string>{"MOVE  (1,1)", "START  (2,2)"}));
 }
 
 TEST(LineOrder, LinesSwapWithTheirNeighbours) {

@@ -135,43 +135,39 @@ TEST_F(PropertyGridTest, OneLineIsBuiltFromItsRowsAndSeveralArePatched) {
       "13,1,2,3,f.fnt,1,4,5,6,c.job@@,7,3,2,0.1M0.2,1,Ask@@,2,3,45,1,1.5,2,3,4,5,1,4,.1,.2,.3";
   const std::string kept = "@@,7,3,2,0.100M0.200,1,Ask@@,2,3,45,1,1.5,2,3,4,5,1,4,0.1,0.2,0.3";
   const std::string normal = "0,1,2,.5,A.fnt,0,0,0,0,one@@,2,3,4";
-  const struct {
-    std::string line;
-    bool several;
-    const char* row;
-    const char* value;
-    std::string written;
-  } cases[] = {
-      {normal, false, "Text", "a, b", "0,1,2,0.5,A.fnt,0,0,0,0,a, b@@,2,0,4,0.000" + kTail},
-      {normal, true, "Text", "a, b",
-       "0,1,2,0.5,A.FNT,0,0,0,0,a, b@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
-      {normal, false, "Font", "GOTHIC", "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,0,4,0.000" + kTail},
-      {closed, true, "X pos", "-1.25abc", "13,-1.25,2,3,F.FNT,1,4,5,6,C.JOB" + kept},
-      {closed, false, "X pos", "-1.25abc",
-       "13,-1.25,2,0,.fnt,0,0,0,0,C.job@@,0,0,2,0.100M0.200,0,@@,2,3,45,0,1.5,2,3,4,5,0,0,0,0,0"},
-      {closed, true, "Closed Path", "D", "13,1,2,3,F.FNT,1,4,5,6,D.job" + kept},
-      {normal, true, "Font", "GOTHIC",
-       "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
-      {"7,0,0,0,.fnt,0,0,0,0,F.fil@@", false, "Fill", "", "7,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.000" + kTail},
-      {"10,0,0,0,.fnt,0,0,0,0,A@@", false, "Cap", "big.b",
-       "10,0,0,0,.fnt,0,0,0,0,big.b@@,0,0,1,0.000" + kTail},
-      {"14,0,0,0,.fnt,0,0,0,0,A@@", false, "Pressure", "LOW",
-       "14,0,0,0,.fnt,0,0,0,0,LOW.pre@@,0,0,1,0.000" + kTail},
-      {normal, true, "Style", "Wavy",
-       "0,1,2,0.5,A.FNT,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
-      {"12,0,0", false, "Depth", "M0.5", "12,0,0,0,.fnt,0,0,0,0,@@,0,0,0,0.000M0.500" + kTail},
-      {"4,0,0", false, "Depth", "0.25M", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.250" + kTail},
-      {"4,0,0", false, "Depth", "1MM2M3", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,1.000" + kTail},
-      {"4,0,0", true, "Depth", "m2", "4,0,0,0,,0,0,0,0,@@,1,1,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
-      {"4,0,0,0,,0,0,0,0,@@,,,,1M2", true, "Depth", "3",
-       "4,0,0,0,,0,0,0,0,@@,1,1,1,3.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
-      {"4,0,0", false, "Tool #", "99999", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,32767,0.000" + kTail},
-  };
-  for (const auto& c : cases) {
-    Make({c.line, c.line, "4,0,0"}, c.several ? "0,1" : "0");
-    Commit(c.row, c.value);
-    EXPECT_EQ(job_.Lines[0], c.written) << c.row;
-    EXPECT_EQ(job_.Lines[1], c.several ? c.written : c.line) << c.row;
+  using Case = std::tuple<std::string, bool, const char*, const char*, std::string>;
+
+  for (const auto& [line, several, row, value, written] :
+       {Case{normal, false, "Text", "a, b", "0,1,2,0.5,A.fnt,0,0,0,0,a, b@@,2,0,4,0.000" + kTail},
+        Case{normal, true, "Text", "a, b",
+             "0,1,2,0.5,A.FNT,0,0,0,0,a, b@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+        Case{normal, false, "Font", "GOTHIC", "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,0,4,0.000" + kTail},
+        Case{closed, true, "X pos", "-1.25abc", "13,-1.25,2,3,F.FNT,1,4,5,6,C.JOB" + kept},
+        Case{closed, false, "X pos", "-1.25abc",
+             "13,-1.25,2,0,.fnt,0,0,0,0,C.job@@,0,0,2,0.100M0.200,0,@@,2,3,45,0,1.5,2,3,4,5,0,0,0,0,0"},
+        Case{closed, true, "Closed Path", "D", "13,1,2,3,F.FNT,1,4,5,6,D.job" + kept},
+        Case{normal, true, "Font", "GOTHIC",
+             "0,1,2,0.5,GOTHIC.fnt,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+        Case{"7,0,0,0,.fnt,0,0,0,0,F.fil@@", false, "Fill", "",
+             "7,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.000" + kTail},
+        Case{"10,0,0,0,.fnt,0,0,0,0,A@@", false, "Cap", "big.b",
+             "10,0,0,0,.fnt,0,0,0,0,big.b@@,0,0,1,0.000" + kTail},
+        Case{"14,0,0,0,.fnt,0,0,0,0,A@@", false, "Pressure", "LOW",
+             "14,0,0,0,.fnt,0,0,0,0,LOW.pre@@,0,0,1,0.000" + kTail},
+        Case{normal, true, "Style", "Wavy",
+             "0,1,2,0.5,A.FNT,0,0,0,0,one@@,2,3,4,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+        Case{"12,0,0", false, "Depth", "M0.5", "12,0,0,0,.fnt,0,0,0,0,@@,0,0,0,0.000M0.500" + kTail},
+        Case{"4,0,0", false, "Depth", "0.25M", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,0.250" + kTail},
+        Case{"4,0,0", false, "Depth", "1MM2M3", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,1,1.000" + kTail},
+        Case{"4,0,0", true, "Depth", "m2",
+             "4,0,0,0,,0,0,0,0,@@,1,1,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+        Case{"4,0,0,0,,0,0,0,0,@@,,,,1M2", true, "Depth", "3",
+             "4,0,0,0,,0,0,0,0,@@,1,1,1,3.000,0,@@,1,1,0,0,0,0,0,0,0,1,0,0,0,0"},
+        Case{"4,0,0", false, "Tool #", "99999", "4,0,0,0,.fnt,0,0,0,0,@@,0,0,32767,0.000" + kTail}}) {
+    Make({line, line, "4,0,0"}, several ? "0,1" : "0");
+    Commit(row, value);
+    EXPECT_EQ(job_.Lines[0], written) << row;
+    EXPECT_EQ(job_.Lines[1], several ? written : line) << row;
     EXPECT_EQ(job_.Lines[2], "4,0,0");
   }
 }
@@ -180,38 +176,33 @@ TEST_F(PropertyGridTest, AChangedTypeOrStyleBringsItsValues) {
   for (const char* name : {"b.FIL", "a.fil", "Z.JOB", "LOGO.JOB", "S.RAS"}) Put(name);
   const std::string normal = "0,1,2,.5,A.fnt,0,0,0,0,LOGO@@,2";
   const std::string place = "1,2,0.5,A.fnt,0,";
-  const struct {
-    std::string line;
-    const char* row;
-    const char* value;
-    std::string written;
-  } cases[] = {
-      {normal, "Type", "Fill", "7," + place + "0,0,0,A.fil@@,2,0,1,0.000" + kTail},
-      {normal, "Type", "Graphic", "2," + place + "0,0,0,LOGO.job@@,2,0,1,0.000" + kTail},
-      {"0,1,2,.5,A.fnt,0,0,0,0,b.FIL@@,2", "Type", "Fill",
-       "7," + place + "0,0,0,b.fil@@,2,0,1,0.000" + kTail},
-      {normal, "Type", "Panel", "5," + place + "0,0,0,@@,2,0,1,0.000" + kTail},
-      {normal, "Type", "Cap", "10," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
-      {normal, "Type", "Serial", "1," + place + "1,0,0,1@@,2,0,1,0.000" + kTail},
-      {normal, "Type", "Closed Path",
-       "13," + place + "0,0,0,LOGO.job@@,2,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
-      {normal, "Type", "Normal", "0," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
-      {"4,1,2", "Type", "Image",
-       "9,1,2,0,.fnt,0,0,0,0,LOGO.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
-      {"15,1,2,0,.fnt,0,0,0,0,Z.job@@", "Type", "Raster",
-       "16,0,0,0,.fnt,0,0,0,0,S.ras@@,0,0,0,0.000" + kTail},
-      {"9,1,2,0,.fnt,0,0,0,0,Z.job@@,,,,,,@@,2,3,45", "Type", "Closed Path",
-       "13,1,2,0,.fnt,0,0,0,0,Z.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
-      {normal, "Style", "RadiusText", "0,1,2,0.5,A.fnt,3,0,90,1,LOGO@@,2,0,1,0.000" + kTail},
-      {"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "Angular",
-       "0,1,2,0.5,A.fnt,2,0,0,0,LOGO@@,2,0,1,0.000" + kTail},
-      {"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "ArcText",
-       "0,1,2,0.5,A.fnt,1,0,45,3,LOGO@@,2,0,1,0.000" + kTail},
-  };
-  for (const auto& c : cases) {
-    Make({c.line}, "0");
-    Commit(c.row, c.value);
-    EXPECT_EQ(job_.Lines[0], c.written) << c.row << c.value;
+  using Case = std::tuple<std::string, const char*, const char*, std::string>;
+
+  for (const auto& [line, row, value, written] :
+       {Case{normal, "Type", "Fill", "7," + place + "0,0,0,A.fil@@,2,0,1,0.000" + kTail},
+        Case{normal, "Type", "Graphic", "2," + place + "0,0,0,LOGO.job@@,2,0,1,0.000" + kTail},
+        Case{"0,1,2,.5,A.fnt,0,0,0,0,b.FIL@@,2", "Type", "Fill",
+             "7," + place + "0,0,0,b.fil@@,2,0,1,0.000" + kTail},
+        Case{normal, "Type", "Panel", "5," + place + "0,0,0,@@,2,0,1,0.000" + kTail},
+        Case{normal, "Type", "Cap", "10," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+        Case{normal, "Type", "Serial", "1," + place + "1,0,0,1@@,2,0,1,0.000" + kTail},
+        Case{normal, "Type", "Closed Path",
+             "13," + place + "0,0,0,LOGO.job@@,2,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+        Case{normal, "Type", "Normal", "0," + place + "0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+        Case{"4,1,2", "Type", "Image",
+             "9,1,2,0,.fnt,0,0,0,0,LOGO.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+        Case{"15,1,2,0,.fnt,0,0,0,0,Z.job@@", "Type", "Raster",
+             "16,0,0,0,.fnt,0,0,0,0,S.ras@@,0,0,0,0.000" + kTail},
+        Case{"9,1,2,0,.fnt,0,0,0,0,Z.job@@,,,,,,@@,2,3,45", "Type", "Closed Path",
+             "13,1,2,0,.fnt,0,0,0,0,Z.job@@,0,0,1,0.000,0,@@,1,1,0,0,0,0,0,0,0,0,0,0,0,0"},
+        Case{normal, "Style", "RadiusText", "0,1,2,0.5,A.fnt,3,0,90,1,LOGO@@,2,0,1,0.000" + kTail},
+        Case{"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "Angular",
+             "0,1,2,0.5,A.fnt,2,0,0,0,LOGO@@,2,0,1,0.000" + kTail},
+        Case{"0,1,2,.5,A.fnt,1,0,45,3,LOGO@@,2", "Style", "ArcText",
+             "0,1,2,0.5,A.fnt,1,0,45,3,LOGO@@,2,0,1,0.000" + kTail}}) {
+    Make({line}, "0");
+    Commit(row, value);
+    EXPECT_EQ(job_.Lines[0], written) << row << value;
   }
 }
 
@@ -221,20 +212,17 @@ TEST_F(PropertyGridTest, ARasterKeepsItsProportion) {
     return std::string("16,0,0,") + height + ",.fnt,0,0,0,0,R.ras@@,0,0,1,0.000,0,@@,0,0,0,0,0,0,0,0,0," +
            keep + ',' + width + ",0,0,0";
   };
-  const struct {
-    std::string line;
-    const char* row;
-    const char* value;
-    std::string written;
-  } cases[] = {{raster("1", "4", "1"), "Width", "3.5", raster("1", "3.5", "1.75")},
-               {raster("1", "4", "1"), "Height", "3", raster("1", "6", "3")},
-               {raster("0", "4", "1"), "Width", "3", raster("0", "3", "1")},
-               {raster("0", "4", "1"), "Keep Ratio", "Yes", raster("1", "4", "2")},
-               {raster("1", "4", "1"), "Keep Ratio", "No", raster("0", "4", "1")}};
-  for (const auto& c : cases) {
-    Make({c.line}, "0");
-    Commit(c.row, c.value);
-    EXPECT_EQ(job_.Lines[0], c.written) << c.row;
+  using Case = std::tuple<std::string, const char*, const char*, std::string>;
+
+  for (const auto& [line, row, value, written] :
+       {Case{raster("1", "4", "1"), "Width", "3.5", raster("1", "3.5", "1.75")},
+        Case{raster("1", "4", "1"), "Height", "3", raster("1", "6", "3")},
+        Case{raster("0", "4", "1"), "Width", "3", raster("0", "3", "1")},
+        Case{raster("0", "4", "1"), "Keep Ratio", "Yes", raster("1", "4", "2")},
+        Case{raster("1", "4", "1"), "Keep Ratio", "No", raster("0", "4", "1")}}) {
+    Make({line}, "0");
+    Commit(row, value);
+    EXPECT_EQ(job_.Lines[0], written) << row;
   }
   job_.Dirty = false;
   PropertyGrid rows = RowsOfSelection(job_, context_);
@@ -267,29 +255,21 @@ TEST_F(PropertyGridTest, StepsAndMoves) {
 TEST_F(PropertyGridTest, EditorsAndTheirChoices) {
   for (const char* name : {"b.fil", "A.FIL", "L.JOB", "F.FNT", "D.DM", "P.PAN", "Q.PRE", "R.RAS"}) Put(name);
   Put("Default.cap", "Cap one,50,1\r\n\r\nCap two\r\n");
-  const struct {
-    const char* label;
-    RowEditorKind kind;
-    std::vector<std::string> choices;
-  } cases[] = {{"Fill", RowEditorKind::List, {"", "A", "B"}},
-               {"Cap", RowEditorKind::List, {"", "Cap one", "Cap two"}},
-               {"Scale", RowEditorKind::List, {""}},
-               {"Pressure", RowEditorKind::List, {"", "Q"}},
-               {"Panel", RowEditorKind::List, {"", "P"}},
-               {"Data Matrix", RowEditorKind::List, {"", "D"}},
-               {"Raster", RowEditorKind::List, {"R"}},
-               {"Graphic", RowEditorKind::GcodeFile, {"L"}},
-               {"Park Path", RowEditorKind::GcodeFile, {"L"}},
-               {"Font", RowEditorKind::List, {"F"}},
-               {"Justify", RowEditorKind::List, {"Left", "Center", "Right"}},
-               {"Keep Ratio", RowEditorKind::List, {"No", "Yes"}},
-               {"DPI Height", RowEditorKind::None, {}},
-               {"Text", RowEditorKind::Text, {}},
-               {"X pos", RowEditorKind::Text, {}}};
-  for (const auto& c : cases) {
-    const RowEditor editor = RowEditorOf(c.label, files_);
-    EXPECT_EQ(editor.kind, c.kind) << c.label;
-    EXPECT_EQ(editor.choices, c.choices) << c.label;
+  using Case = std::tuple<const char*, RowEditorKind, std::vector<std::string>>;
+
+  for (const auto& [label, kind, choices] :
+       {Case{"Fill", RowEditorKind::List, {"", "A", "B"}},
+        Case{"Cap", RowEditorKind::List, {"", "Cap one", "Cap two"}},
+        Case{"Scale", RowEditorKind::List, {""}}, Case{"Pressure", RowEditorKind::List, {"", "Q"}},
+        Case{"Panel", RowEditorKind::List, {"", "P"}}, Case{"Data Matrix", RowEditorKind::List, {"", "D"}},
+        Case{"Raster", RowEditorKind::List, {"R"}}, Case{"Graphic", RowEditorKind::GcodeFile, {"L"}},
+        Case{"Park Path", RowEditorKind::GcodeFile, {"L"}}, Case{"Font", RowEditorKind::List, {"F"}},
+        Case{"Justify", RowEditorKind::List, {"Left", "Center", "Right"}},
+        Case{"Keep Ratio", RowEditorKind::List, {"No", "Yes"}}, Case{"DPI Height", RowEditorKind::None, {}},
+        Case{"Text", RowEditorKind::Text, {}}, Case{"X pos", RowEditorKind::Text, {}}}) {
+    const RowEditor editor = RowEditorOf(label, files_);
+    EXPECT_EQ(editor.kind, kind) << label;
+    EXPECT_EQ(editor.choices, choices) << label;
   }
   EXPECT_EQ(RowEditorOf("Type", files_).choices.size(), 17U);
 }

@@ -65,7 +65,6 @@ TEST_F(frmEditTest, AJobIsShownAsItIs) {
   station.prompts.files.push_back({station.folder / "ONE.TJB"});
   station.Entry("mnuFileOpen").trigger();
   EXPECT_EQ(station.prompts.requests.at(0).filter, "TJB Files (*.TJB)|*.TJB");
-  EXPECT_EQ(station.prompts.requests.at(0).title, "Open File");
   EXPECT_EQ(Control<QComboBox>("cmbFile").currentText(), "ONE.TJB");
   EXPECT_EQ(Find<QToolButton>(station.Frame(), "panelJob").text(), "ONE.TJB");
   EXPECT_EQ(Control<QLineEdit>("txtComments").text(), "The first");
@@ -118,27 +117,6 @@ TEST_F(frmEditTest, TheSelectorAsksForAChangedJob) {
   EXPECT_EQ(selector.currentText(), "TWO.TJB");
   EXPECT_EQ(station.job.Comment, "The second");
   EXPECT_EQ(Lines(), QStringList({"Line 1: MOVE"}));
-  // A No drops the change, and is asked for once.
-  station.job.Dirty = true;
-  station.prompts.answers = {Answer::No};
-  Control<QLineEdit>("txtComments").setFocus();
-  selector.setFocus(Qt::TabFocusReason);
-  EXPECT_FALSE(station.job.Dirty);
-  selector.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(station.prompts.boxes.size(), 2U);
-}
-
-TEST_F(frmEditTest, SavingUnderItsOwnAndAnotherName) {
-  Open("TWO.TJB");
-  QTest::keyClicks(&Control<QLineEdit>("txtComments"), "?");
-  Control<QPushButton>("cmdSave").click();
-  EXPECT_EQ(station.folder.Read("TWO.TJB"), "COMMENT,The second?\r\n4,1,1\r\n");
-  EXPECT_FALSE(Form().isWindowModified());
-  station.prompts.files.push_back({station.folder / "THREE.TJB"});
-  station.Entry("mnuFileSaveAs").trigger();
-  EXPECT_EQ(station.folder.Read("THREE.TJB"), station.folder.Read("TWO.TJB"));
-  EXPECT_EQ(Control<QComboBox>("cmbFile").currentText(), "THREE.TJB");
-  EXPECT_EQ(Find<QToolButton>(station.Frame(), "panelJob").text(), "THREE.TJB");
 }
 
 TEST_F(frmEditTest, ClosingDropsTheJobWhateverTheAnswer) {
@@ -160,12 +138,6 @@ TEST_F(frmEditTest, ToolPathMarkDrawsItsLines) {
   EXPECT_EQ(CountPixels(pic(), green), 0);
   station.Entry("mnuViewToolPath").trigger();
   EXPECT_GT(CountPixels(pic(), green), 100);
-  // Toggled behind another window, the job is drawn when it comes forward.
-  auto& picture = pic();
-  station.Entry("mnuFontView").trigger();
-  station.Entry("mnuViewToolPath").trigger();
-  station.Entry("mnuFileEdit").trigger();
-  EXPECT_EQ(CountPixels(picture, green), 0);
 }
 
 TEST_F(frmEditTest, AClickEditsAndARightClickMoves) {

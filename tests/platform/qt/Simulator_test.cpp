@@ -61,36 +61,6 @@ struct Host {
   link::Comm comm{{files, settings, clock, prompts, waitWindow, progress, serial, tcp, abort}};
 };
 
-TEST(Simulator, TakesAndGivesFilesOverBothTransports) {
-  std::string text = "first\r\n";
-  while (text.size() < 2000) text += "a line of the job \x80\xFF\r\n";
-  std::string bytes;
-  for (int i = 0; i < 9000; ++i) bytes += static_cast<char>(i * 7 % 251);
-  for (const bool network : {false, true}) {
-    SCOPED_TRACE(network);
-    Simulator simulator(kAddress);
-    ASSERT_TRUE(simulator.ready);
-    Host host(network, simulator);
-    host.folder.Write("A.TJB", text);
-    host.folder.Write("LOGO.JOB", "G0 X1\r\nno line end");
-    host.folder.Write("P.RAS", bytes);
-    EXPECT_TRUE(host.comm.DownloadFile("QT7250DFILE a.tjb", "A.TJB"));
-    EXPECT_TRUE(host.comm.DownloadFile("JOB LOGO", "LOGO.JOB"));
-    EXPECT_TRUE(host.comm.DownloadBinaryFile("QT7250DLBIN P.RAS", "P.RAS"));
-    EXPECT_TRUE(simulator.WaitFor("stored P.RAS, 9000 bytes"));
-    EXPECT_EQ(simulator.machine.Read("A.TJB"), text);
-    EXPECT_EQ(simulator.machine.Read("P.RAS"), bytes);
-    EXPECT_EQ(simulator.machine.Read("LOGO.JOB"),
-              network ? "G0 X1\r\nno line end" : "G0 X1\r\nno line end\r\n");
-    EXPECT_TRUE(host.comm.UploadFile("QT7250FILE A.TJB", "B.TJB"));
-    EXPECT_EQ(host.folder.Read("B.TJB"), text);
-    EXPECT_FALSE(host.comm.RunWait("NONE.TJB", 0));
-    EXPECT_NE(simulator.Log().find(network ? "tcp > JOB LOGO\\r\\n" : "pty > JOB LOGO\\r\\n"),
-              std::string::npos);
-    EXPECT_EQ(host.Boxes(), "");
-  }
-}
-
 // Only the first connection meets the fault; the operation behind it works.
 TEST(Simulator, FaultsEndAnOperationAndNotTheNext) {
   const std::string kTimeout = "got\r\n\r\nTimeout waiting for controller|";
