@@ -223,7 +223,9 @@ void CellGrid::FitColumns() {
     const bool label = column < model_.LabelColumns();
     horizontalHeader()->setSectionResizeMode(
         column, label ? QHeaderView::ResizeToContents : QHeaderView::Interactive);
-    resizeColumnToContents(column);
+    // A long text would push a value alone out of the view.
+    const bool alone = !label && columns - model_.LabelColumns() == 1;
+    if (!alone) resizeColumnToContents(column);
   }
 }
 

@@ -257,5 +257,13 @@ TEST_F(CellGridTest, InputMethodsTypeIntoTheGrid) {
   EXPECT_EQ(Told(), QString("Text=ABC\u00EAx"));
 }
 
+TEST_F(CellGridTest, ALongValueStaysInTheView) {
+  grid_.SetRows({});
+  rows_[kText][1] = QString(300, 'W');
+  grid_.SetRows(rows_);
+  WindowStation::Pump();
+  EXPECT_LE(grid_.visualRect(grid_.model()->index(kText, 1)).right(), grid_.viewport()->width());
+}
+
 }  // namespace
 }  // namespace morvane::test
