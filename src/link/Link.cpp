@@ -128,6 +128,26 @@ void Link::SendTcp(std::string_view bytes) {
   sources_.tcp.SendData(bytes);
 }
 
+bool Link::Post(bool tcp, std::string_view bytes) {
+  if (Queued(tcp) > kTransmitBuffer) return false;
+  if (tcp) {
+    SendTcp(bytes);
+  } else {
+    sources_.serial.Output(bytes);
+  }
+  return true;
+}
+
+bool Link::Connected(bool tcp) const {
+  return tcp ? sources_.tcp.State() == platform::TcpState::Connected : sources_.serial.IsOpen();
+}
+
+void Link::CloseHeld(bool tcp) {
+  if (tcp) return CloseTcp();
+  if (sources_.serial.IsOpen() && !Aborted()) sources_.clock.Sleep(kCloseDelay);
+  sources_.serial.Close();
+}
+
 std::size_t Link::Queued(bool tcp) const {
   return tcp ? bytesRemaining_ : sources_.serial.OutBufferCount();
 }

@@ -42,6 +42,11 @@ class Link {
   // is at stake when the port closes. False when the line takes nothing any more or the program closes.
   bool SendSerial(std::string_view bytes);
   void SendTcp(std::string_view bytes);
+  // For a held link: sends and waits for nothing. False, with nothing sent, when too much is queued already.
+  bool Post(bool tcp, std::string_view bytes);
+  bool Connected(bool tcp) const;
+  // Waits the close delay and closes, whatever became of the port meanwhile.
+  void CloseHeld(bool tcp);
   // Up to 10 rounds of 1000 ms until nothing is queued; then tells what is stuck.
   void DrainSerial();
   void DrainTcp();
