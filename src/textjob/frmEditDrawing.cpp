@@ -23,10 +23,12 @@ constexpr int kShowPartAfter = 200;  // milliseconds
 }  // namespace
 
 void frmEdit::DrawJob() {
+  const platform::Operations::Scope scope(context_.operations, this);
+  // A pass may wait for side programs: what is typed until it ends must meet the rows of the present lines.
+  ShowRows();
   if (drawing_) {
     drawAgain_ = true;
-    // What is typed before that pass begins must meet the rows of the job as it stands.
-    return ShowRows();
+    return;
   }
   do {
     drawAgain_ = false;

@@ -298,6 +298,14 @@ TEST_F(SlowPass, TypingMeanwhileIsNotLost) {
   EXPECT_EQ(station.job.Lines[0], "16,1,1,1,,0,0,0,0,P.RAS@@,1");
   EXPECT_EQ(station.job.Lines[1].substr(0, 41), "4,1,2.0005,0,.fnt,0,0,0,0,@@,0,0,15,0.000");
   EXPECT_EQ(station.job.Comment, "aa");
+  // The rows of another line are there before its pass has ended.
+  station.processes.scripts.push_back({true, 30, 0, {}});
+  station.clock.onWait = [&](int) {
+    if (acted != 0) QTest::keyClick(&grid, Qt::Key_6);
+    acted = 0;
+  };
+  Form().SelectLine(2);
+  EXPECT_EQ(station.job.Lines[2].substr(0, 41), "4,3,4.0006,0,.fnt,0,0,0,0,@@,0,0,1,0.000,");
 }
 
 }  // namespace
