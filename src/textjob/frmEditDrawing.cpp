@@ -1,6 +1,7 @@
 // The preview of the editor: drawing passes, and what they fill.
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <algorithm>
 
 #include "common/Settings.h"
 #include "context/AppContext.h"
@@ -19,6 +20,25 @@ namespace morvane::textjob {
 namespace {
 
 constexpr int kShowPartAfter = 200;  // milliseconds
+
+// All at once: row by row would take seconds in a full job.
+void SelectRows(QListWidget& list, const std::vector<bool>& selected) {
+  std::vector<bool> shown(selected.size(), false);
+  for (const QItemSelectionRange& range : list.selectionModel()->selection()) {
+    std::fill(shown.begin() + range.top(), shown.begin() + range.bottom() + 1, true);
+  }
+  if (shown == selected) return;
+  QItemSelection runs;
+  for (auto from = std::find(selected.begin(), selected.end(), true); from != selected.end();) {
+    const auto to = std::find(from, selected.end(), false);
+    const auto index = [&](auto row) {
+      return list.model()->index(static_cast<int>(row - selected.begin()), 0);
+    };
+    runs.append(QItemSelectionRange(index(from), index(std::prev(to))));
+    from = std::find(to, selected.end(), true);
+  }
+  list.selectionModel()->select(runs, QItemSelectionModel::ClearAndSelect);
+}
 
 }  // namespace
 
@@ -75,13 +95,11 @@ void frmEdit::ShowLines(const PreviewResult& result) {
   const int count = static_cast<int>(result.labels.size());
   while (list.count() > count) delete list.takeItem(list.count() - 1);
   while (list.count() < count) list.addItem(QString());
-  const TextJob& job = context_.job;
-  const std::vector<bool> selected = SelectedLines(job.Selection, result.labels.size());
   for (int row = 0; row < count; ++row) {
-    const auto index = static_cast<std::size_t>(row);
-    list.item(row)->setText(platform::ToQt(result.labels[index]));
-    list.item(row)->setSelected(selected[index]);
+    list.item(row)->setText(platform::ToQt(result.labels[static_cast<std::size_t>(row)]));
   }
+  const TextJob& job = context_.job;
+  SelectRows(list, SelectedLines(job.Selection, result.labels.size()));
   if (result.current >= 0) list.setCurrentRow(result.current, QItemSelectionModel::NoUpdate);
   const QString comment = platform::ToQt(job.Comment);
   if (ui_->txtComments->text() != comment) ui_->txtComments->setText(comment);
