@@ -22,6 +22,8 @@ class BenchStation {
  public:
   // 1001 lines of 20 characters each, about 9 strokes a character.
   BenchStation() {
+    // What a run that was ended left would be offered by the next one.
+    std::filesystem::remove_all(directory_);
     std::filesystem::create_directories(directory_);
     std::ifstream in(MORVANE_SOURCE_DIR "/station/FONT1.fnt", std::ios::binary);
     std::ostringstream bytes;
@@ -44,15 +46,19 @@ class BenchStation {
   BenchStation(const BenchStation&) = delete;
   BenchStation& operator=(const BenchStation&) = delete;
 
-  void Draw(platform::Canvas& canvas) {
+  void Draw(platform::Canvas& canvas) { Draw(job_, {1600, 1000}, canvas); }
+  // Another job than its own, fitted to a picture of that size.
+  void Draw(const textjob::TextJob& job, const textjob::PictureSize& size, platform::Canvas& canvas) {
     const textjob::PreviewSources sources{files_,   settings_, clock_, locale_,
                                           prompts_, runner_,   font_,  glyphs_};
-    textjob::DrawJob(sources, {job_, "JOB.TJB", {}, {1600, 1000}}, state_, canvas);
+    textjob::DrawJob(sources, {job, "JOB.TJB", {}, size}, state_, canvas);
   }
-  void SetLineWidth(int pixels) {
-    settings_.SaveSetting(common::kSettingsSection, "LineWidth", common::PlainNumber(std::int32_t{pixels}));
+  void Set(const char* key, std::int32_t value) {
+    settings_.SaveSetting(common::kSettingsSection, key, common::PlainNumber(value));
   }
   const common::Files& Files() const { return files_; }
+  // Its job lies in JOB.TJB from now on.
+  void SaveJob() { files_.WriteStraight("JOB.TJB", textjob::WriteTjb(job_)); }
 
  private:
   std::filesystem::path directory_ = std::filesystem::temp_directory_path() / "morvane-bench-station";

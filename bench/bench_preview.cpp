@@ -95,7 +95,7 @@ BENCHMARK(BM_FullPass)->Unit(benchmark::kMillisecond)->MinTime(2);
 void BM_Painted(benchmark::State& state) {
   BenchStation station;
   const auto width = static_cast<int>(state.range(0));
-  station.SetLineWidth(width);
+  station.Set("LineWidth", width);
   platform::RecordingCanvas drawing;
   station.Draw(drawing);
 

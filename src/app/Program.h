@@ -45,6 +45,9 @@ class Program {
   // From start to end; the process's exit status.
   int Run(const CommandLine& line);
 
+  // For programs that drive its windows and look at what comes of it.
+  const context::AppContext& Context() const { return context_; }
+
  private:
   void Start(const CommandLine& line);
   void PrepareSettings();
