@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <cstdlib>
 
@@ -10,6 +11,7 @@
 #include "recovery/EditUntilKilled.h"
 #include "support/qt_WindowStation.h"
 #include "textjob/frmEdit.h"
+#include "widgets/CellGrid.h"
 
 namespace morvane::test {
 namespace {
@@ -29,9 +31,14 @@ class FormVictim : public Victim {
     station_.prompts.answers.clear();
   }
   const textjob::TextJob& Job() const override { return station_.job; }
+  // Each is one change: what a killed program leaves was told before.
   void Change(const std::string& comment, std::size_t random) override {
-    if (random % 4 == 0 && station_.job.LineCount() < 200) return Click("cmdNewLine");
     QApplication::clipboard()->setText(QString::fromStdString(comment));
+    const std::size_t lines = station_.job.LineCount();
+    const std::size_t action = random % 4;
+    if (action == 0 && lines < 200) return Click("cmdNewLine");
+    if (action == 1 && lines > 1) return Select(0), Click("cmdDeleteLine");
+    if (action == 2 && lines > 0) return Select(random / 4 % lines), PasteX();
     Comments().selectAll();
     Key(Qt::Key_V);
   }
@@ -52,6 +59,16 @@ class FormVictim : public Victim {
   void Key(Qt::Key key) {
     Comments().setFocus();
     QTest::keyClick(&Comments(), key, Qt::ControlModifier);
+  }
+  void Select(std::size_t line) {
+    Find<QListWidget>(*form_, "cmbLine").setCurrentRow(static_cast<int>(line));
+  }
+  void PasteX() {
+    auto& grid = Find<widgets::CellGrid>(*form_, "PropertyGrid");
+    for (int row = 0; row < grid.RowCount(); ++row) {
+      if (grid.CellText(row, 0) == "X pos") grid.SetCurrentCell(row, 1, true);
+    }
+    QTest::keyClick(&grid.Editors().TextBox(), Qt::Key_V, Qt::ControlModifier);
   }
   void Click(const char* name) { QTest::mouseClick(&Find<QAbstractButton>(*form_, name), Qt::LeftButton); }
 
