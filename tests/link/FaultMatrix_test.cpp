@@ -214,7 +214,7 @@ TEST(FaultMatrix, EveryFaultAtEveryPlaceOfEveryOperation) {
       }
     }
   }
-  EXPECT_GE(cells, 300);
+  EXPECT_EQ(cells, 966);
 }
 
 }  // namespace
