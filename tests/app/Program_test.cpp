@@ -54,12 +54,6 @@ TEST(Program, OnlyOneForEachBaseDirectory) {
   EXPECT_EQ(second.process.readAllStandardError().trimmed(), "") << "it ends silently";
   EXPECT_TRUE(std::filesystem::exists(base / "Temp/reply.ret")) << "the first is undisturbed";
 
-  const TempFolder other;
-  std::filesystem::create_directory(other / "Temp");
-  other.Write("Temp/left.ret", "");
-  Running elsewhere(other);
-  EXPECT_TRUE(Clears(other / "Temp/left.ret"));
-
   first.process.kill();
   ASSERT_TRUE(first.process.waitForFinished(kLimit));
   Running third(base);

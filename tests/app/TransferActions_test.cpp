@@ -98,18 +98,6 @@ TEST_F(TransferMenu, FetchedGraphicsAreShownWhenAskedFor) {
   EXPECT_EQ(station.Frame().ActiveForm()->windowTitle(), "Job Viewer - TEXTJOB.JOB");
 }
 
-TEST_F(TransferMenu, TheEditorsButtonsSendRunAndFetch) {
-  station.folder.Write("A.TJB", "COMMENT,1\r\n7,1,1,1,,0,0,0,0,A.FIL@@,1\r\n");
-  station.windows.OpenFile(station.folder / "A.TJB");
-  Press("cmdDownloadRun");
-  EXPECT_EQ(Last(), "Download and Run Complete");
-  EXPECT_TRUE(station.controller.wire.ends_with("QT7250RUN A.TJB\r\n"));
-  station.controller.replies["QT7250FILES"] = {"NEW.TJB\r\nENDFILE\r\n"};
-  station.prompts.picks = {{"NEW.TJB"}};
-  Press("cmdUpload");
-  EXPECT_EQ(Find<QComboBox>(station.Active<textjob::frmEdit>(), "cmbFile").currentText(), "NEW.TJB");
-}
-
 TEST_F(TransferMenu, AnotherJobMayBeOpenedAndNoSecondCommandRunsMeanwhile) {
   station.windows.OpenFile(station.folder / "A.TJB");
   station.folder.Write("B.TJB", "COMMENT,other\r\n");

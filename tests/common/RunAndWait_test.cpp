@@ -9,9 +9,9 @@ namespace {
 
 TEST(RunAndWait, LooksInTheBaseDirectoryThenBesideTheProgram) {
   test::SideProgramStation station("other.exe");
-  station.fileSystem.Put("/program/SQRGEN.EXE", "");
+  station.disk.Put("/program/SQRGEN.EXE", "");
   EXPECT_EQ(station.runner.RunAndWait("sqrgen.exe", {"20x20", "\xE9"}), 0);
-  station.fileSystem.Put("/base/Sqrgen.exe", "");
+  station.disk.Put("/base/Sqrgen.exe", "");
   EXPECT_EQ(station.runner.RunAndWait("SQRGEN.EXE", {}), 0);
   const auto& runs = station.processes.runs;
   EXPECT_EQ(runs[0].program, "/program/SQRGEN.EXE");

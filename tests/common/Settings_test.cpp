@@ -3,18 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "common/RunTimeError.h"
-#include "support/FakeFileSystem.h"
+#include "support/BaseStation.h"
 
 namespace morvane::common {
 namespace {
 
 constexpr const char* kIni = "/base/Morvane.ini";
 
-class SettingsTest : public ::testing::Test {
+class SettingsTest : public testing::Test, public test::BaseStation {
  protected:
-  test::FakeFileSystem disk_;
-  Files files_{disk_, "/base"};
-  Settings settings_{files_};
 };
 
 TEST(SettingsSnapshot, ReadsOneKey) {
@@ -69,9 +66,9 @@ TEST_F(SettingsTest, WritesChangeNothingElse) {
         Case{"[S]\na=b.bmp=1\n", {"S", "A=B.bmp", "2"}, "[S]\na=b.bmp=2\n"},
         Case{"[S]\n", {"S", "K\r\n", "1\r\n[T]\tx"}, "[S]\nK=1[T]x\r\n"},
         Case{"[S]\nlong key=1\n", {"S", "long", "2"}, "[S]\nlong key=1\nlong=2\r\n"}}) {
-    disk_.Put(kIni, before);
-    settings_.Apply({change});
-    EXPECT_EQ(disk_.Get(kIni), after) << before;
+    disk.Put(kIni, before);
+    settings.Apply({change});
+    EXPECT_EQ(disk.Get(kIni), after) << before;
   }
 }
 
@@ -79,30 +76,30 @@ TEST_F(SettingsTest, RefusesWhatTheFileCannotHold) {
   using Case = std::pair<const char*, const char*>;
   for (const auto& [section, key] : {Case{"S", ""}, Case{"S", " "}, Case{"S", ";K"}, Case{"S", "[K]"},
                                      Case{"S", "\n[K]"}, Case{"", "K"}, Case{"S]", "K"}, Case{"S", "=K"}}) {
-    EXPECT_THROW(settings_.Apply({{"S", "First", "1"}, {section, key, "1"}}), RunTimeError) << key;
-    EXPECT_FALSE(disk_.Has(kIni));
+    EXPECT_THROW(settings.Apply({{"S", "First", "1"}, {section, key, "1"}}), RunTimeError) << key;
+    EXPECT_FALSE(disk.Has(kIni));
   }
 }
 
 TEST_F(SettingsTest, DefaultsStandWithoutAFile) {
-  EXPECT_EQ(settings_.GetSetting("Settings", "ComPort", "1"), "1");
-  EXPECT_EQ(settings_.UnitsFormatText(), "0.000");
-  settings_.DeleteSetting("Settings", "ComPort");
-  EXPECT_FALSE(disk_.Has(kIni));
+  EXPECT_EQ(settings.GetSetting("Settings", "ComPort", "1"), "1");
+  EXPECT_EQ(settings.UnitsFormatText(), "0.000");
+  settings.DeleteSetting("Settings", "ComPort");
+  EXPECT_FALSE(disk.Has(kIni));
 }
 
 TEST_F(SettingsTest, AFailedWriteKeepsTheOldFile) {
   const std::string before = "[Settings]\r\nComPort=5\r\n";
-  disk_.Put(kIni, before);
+  disk.Put(kIni, before);
   test::FakeFileSystem::Faults full, broken;
   full.bytesLeft = 10;
   broken.read = platform::Error::DeviceError;
   for (const auto& faults : {full, broken}) {
-    disk_.faults = faults;
-    EXPECT_THROW(settings_.SaveSetting("Settings", "IP", "1.2.3.4"), RunTimeError);
-    EXPECT_EQ(disk_.Get(kIni), before);
+    disk.faults = faults;
+    EXPECT_THROW(settings.SaveSetting("Settings", "IP", "1.2.3.4"), RunTimeError);
+    EXPECT_EQ(disk.Get(kIni), before);
   }
-  EXPECT_EQ(settings_.GetSetting("Settings", "ComPort", "1"), "1");
+  EXPECT_EQ(settings.GetSetting("Settings", "ComPort", "1"), "1");
 }
 
 }  // namespace

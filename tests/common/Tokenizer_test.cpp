@@ -30,19 +30,6 @@ TEST(Tokenizer, Steps) {
   EXPECT_EQ(Scan(&Tokenizer::GetTokenAny, "A,B;C,", ",;"), "A|B|C||!");
 }
 
-TEST(Tokenizer, ScansNestWithoutDisturbingEachOther) {
-  Tokenizer tokenizer;
-  bool atEnd = false;
-  std::string tokens;
-  for (const bool first : {true, false}) {
-    tokens += tokenizer.GetToken(first ? "1;2" : "", ";", atEnd);
-    tokens += tokenizer.GetToken2(first ? "a,b" : "", ",", atEnd);
-    tokens += tokenizer.GetToken3(first ? "x-y" : "", "-", atEnd);
-    tokens += tokenizer.GetTokenAny(first ? "p q" : "", " ", atEnd);
-  }
-  EXPECT_EQ(tokens, "1axp2byq");
-}
-
 TEST(Tokenizer, SplitTextStopsAtTheFirstEmptyToken) {
   using Case = std::pair<const char*, std::vector<std::string>>;
   for (const auto& [text, tokens] : {Case{"A,B", {"A", "B"}}, Case{"A,,B", {"A"}}, Case{",A", {}}}) {

@@ -16,13 +16,13 @@ class SymbolCache : public ::testing::Test {
   SymbolCache() { PutFile("A$B"); }
 
   void PutFile(const std::string& content) {
-    station_.fileSystem.Put("/base/lot.dm", "20x20\n0\n.01\n1\n\n\n\n\n\n" + content + "@ENDDM@");
+    station_.disk.Put("/base/lot.dm", "20x20\n0\n.01\n1\n\n\n\n\n\n" + content + "@ENDDM@");
   }
   // The next run of the tool keeps its input and makes a symbol.
   void ExpectSymbol() {
     station_.processes.scripts.push_back({true, 2, 0, [this] {
-                                            input_ = station_.fileSystem.Get("/base/in.txt");
-                                            station_.fileSystem.Put("/base/out.txt", kSymbol);
+                                            input_ = station_.disk.Get("/base/in.txt");
+                                            station_.disk.Put("/base/out.txt", kSymbol);
                                           }});
   }
   // One line of a pass of its own.
@@ -43,10 +43,10 @@ TEST_F(SymbolCache, RunsTheToolOnlyForANewerFile) {
   EXPECT_EQ(input_, "<A$B>");
   ASSERT_EQ(Runs(), 1U);
   EXPECT_EQ(station_.processes.runs[0].arguments, std::vector<std::string>{"20x20"});
-  EXPECT_EQ(station_.fileSystem.Get("/base/Temp/LOT.out"), kSymbol);
+  EXPECT_EQ(station_.disk.Get("/base/Temp/LOT.out"), kSymbol);
 
-  station_.fileSystem.SetModified("/base/lot.dm", 5);
-  station_.fileSystem.SetModified("/base/Temp/LOT.out", 5);
+  station_.disk.SetModified("/base/lot.dm", 5);
+  station_.disk.SetModified("/base/Temp/LOT.out", 5);
   EXPECT_EQ(Draw(), kRows);
   EXPECT_EQ(Runs(), 1U);
 
@@ -57,7 +57,7 @@ TEST_F(SymbolCache, RunsTheToolOnlyForANewerFile) {
 }
 
 TEST_F(SymbolCache, AFailedBuildLeavesNoRowsAndIsTriedAgainByTheNextPass) {
-  station_.fileSystem.Put("/base/out.txt", kSymbol);  // of an earlier run
+  station_.disk.Put("/base/out.txt", kSymbol);  // of an earlier run
   station_.ExpectEnd(0);
   station_.ExpectEnd(1);
   station_.ExpectNoStart();
@@ -69,7 +69,7 @@ TEST_F(SymbolCache, AFailedBuildLeavesNoRowsAndIsTriedAgainByTheNextPass) {
     for (int line = 0; line < 3; ++line) {
       EXPECT_TRUE(BuildSymbolCache(station_.runner, "LOT.DM", expand_, failed).rows.empty());
     }
-    EXPECT_FALSE(station_.fileSystem.Has("/base/Temp/LOT.out"));
+    EXPECT_FALSE(station_.disk.Has("/base/Temp/LOT.out"));
     EXPECT_EQ(Runs(), run);
   }
   station_.Expect("out.txt", kSymbol);
@@ -77,13 +77,13 @@ TEST_F(SymbolCache, AFailedBuildLeavesNoRowsAndIsTriedAgainByTheNextPass) {
 }
 
 TEST_F(SymbolCache, WhatIsDamagedOrSavedWhileTheToolRunsIsMadeAgain) {
-  station_.fileSystem.Put("/base/Temp/LOT.out", "***\r\n*");
+  station_.disk.Put("/base/Temp/LOT.out", "***\r\n*");
   station_.Expect("out.txt", kSymbol);
   EXPECT_EQ(Draw(), kRows);
-  EXPECT_EQ(station_.fileSystem.Get("/base/Temp/LOT.out"), kSymbol);
+  EXPECT_EQ(station_.disk.Get("/base/Temp/LOT.out"), kSymbol);
   PutFile("newer");
   station_.processes.scripts = {{true, 0, 0, [this] {
-                                   station_.fileSystem.Put("/base/out.txt", kSymbol);
+                                   station_.disk.Put("/base/out.txt", kSymbol);
                                    PutFile("later");
                                  }}};
   EXPECT_EQ(Draw(), kRows);
@@ -93,7 +93,7 @@ TEST_F(SymbolCache, WhatIsDamagedOrSavedWhileTheToolRunsIsMadeAgain) {
 }
 
 TEST_F(SymbolCache, NoToolForAFileThatCannotBeUsed) {
-  station_.fileSystem.Put("/other.dm", FormatDataMatrix({}));
+  station_.disk.Put("/other.dm", FormatDataMatrix({}));
   for (const char* name : {"NONE.DM", "", "..\\other.dm", "/other.dm", "C:other.dm", "LOT\n.DM"}) {
     EXPECT_TRUE(Draw(name).empty()) << name;
   }

@@ -57,16 +57,5 @@ TEST_F(frmFontViewTest, ShowsOneCharacterAfterTheOther) {
   EXPECT_EQ(Character(), QString::fromUtf8("\u00FE (254)"));
 }
 
-TEST_F(frmFontViewTest, ATypedNameIsOpenedAndABadOneToldOnce) {
-  auto& name = Find<QLineEdit>(Form(), "txtJob");
-  name.setText("NONE.fnt");
-  QTest::keyClick(&name, Qt::Key_Return);
-  QTest::keyClick(&name, Qt::Key_Return);
-  EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"Font File Error: File not found"});
-  name.setText("good");
-  QTest::keyClick(&name, Qt::Key_Return);
-  EXPECT_EQ(Text("lblSegments"), "Line Segments: 2");
-}
-
 }  // namespace
 }  // namespace morvane::test

@@ -3,15 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <set>
 #include <sstream>
 
 #include "common/RunTimeError.h"
 #include "fonts/GlyphCache.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakePrompts.h"
+#include "support/BaseStation.h"
 #include "support/TempFolder.h"
 
 namespace morvane::fonts {
@@ -61,19 +58,16 @@ TEST(Font, TheViewersScannerReportsTheCodeNumber) {
   EXPECT_TRUE(segments.empty());
 }
 
-class FontFile : public testing::Test {
+class FontFile : public testing::Test, public test::BaseStation {
  protected:
   bool Load(const std::string& name) { return LoadFont(table, name, FontOrigin::Document, files, prompts); }
 
-  test::FakeFileSystem fileSystem{"/base"};
-  common::Files files{fileSystem, "/base"};
-  test::FakePrompts prompts;
   FontTable table;
 };
 
 TEST_F(FontFile, SpellingsAndOldEntries) {
-  fileSystem.Put("/base/Font1.fnt", "1:\r\n2:old\r\n3:stays\r\n");
-  fileSystem.Put("/base/FONT2.FNT", "1:new\r\n2:\r\n");
+  disk.Put("/base/Font1.fnt", "1:\r\n2:old\r\n3:stays\r\n");
+  disk.Put("/base/FONT2.FNT", "1:new\r\n2:\r\n");
   for (const char* name : {"FONT1.FNT", "font1.fnt", "FONT1", "FONT1.XYZ"}) EXPECT_TRUE(Load(name)) << name;
   EXPECT_TRUE(Load("font2"));
   EXPECT_EQ(table.FontName, "font2");
@@ -81,14 +75,14 @@ TEST_F(FontFile, SpellingsAndOldEntries) {
 }
 
 TEST_F(FontFile, FailuresKeepTheNewNameAndTheOldEntries) {
-  fileSystem.Put("/base/A.FNT", "1:a\r\n");
-  fileSystem.Put("/secret.fnt", "1:secret\r\n");
+  disk.Put("/base/A.FNT", "1:a\r\n");
+  disk.Put("/secret.fnt", "1:secret\r\n");
   Load("A.FNT");
   EXPECT_FALSE(Load("B.FNT"));
   EXPECT_FALSE(Load("..\\SECRET.FNT"));
   EXPECT_EQ(table.FontName, "..\\SECRET.FNT");
   EXPECT_EQ(table.FontChars[1], "1:a");
-  fileSystem.faults.bytesLeft = 5;
+  disk.faults.bytesLeft = 5;
   EXPECT_FALSE(SaveFont(table, "A.FNT", files, prompts));
   EXPECT_EQ(prompts.Texts(), (std::vector<std::string>{"Font File Error: File not found", "Disk full"}));
 }
@@ -114,11 +108,11 @@ TEST(FontLinks, NoSpellingLeadsADocumentOut) {
 TEST_F(FontFile, RoundTripOf255Lines) {
   std::string bytes;
   for (int code = 1; code <= 255; ++code) bytes += std::to_string(code) + ":0,0,1,1\r\n";
-  fileSystem.Put("/base/A.FNT", bytes + "256:behind\r\n");
+  disk.Put("/base/A.FNT", bytes + "256:behind\r\n");
   ASSERT_TRUE(Load("A.FNT"));
   EXPECT_EQ(table.FontChars[0], "");
   ASSERT_TRUE(SaveFont(table, "B.FNT", files, prompts));
-  EXPECT_EQ(fileSystem.Get("/base/B.FNT"), bytes);
+  EXPECT_EQ(disk.Get("/base/B.FNT"), bytes);
 }
 
 TEST_F(FontFile, TheGlyphCacheFollowsTheTable) {
@@ -134,27 +128,6 @@ TEST_F(FontFile, TheGlyphCacheFollowsTheTable) {
   EXPECT_EQ(show(false), " 6,6-5,5 2,1-1,1-0,0");
   ReadFont("1:2,2,3,3\n", table);
   EXPECT_EQ(show(true), " 2,2-3,3");
-}
-
-// The fonts that come with the program are complete and stay inside what the preview expects.
-TEST(StationFonts, EveryLineIsItsCharacter) {
-  for (const char* name : {"FONT1.fnt", "FONT2.fnt"}) {
-    std::ifstream in(std::string(MORVANE_SOURCE_DIR "/station/") + name, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    FontTable table;
-    ReadFont(bytes.str(), table);
-    for (int code = 1; code < kFontCodes; ++code) {
-      Segments segments;
-      ASSERT_TRUE(ReadFontLine(table.FontChars[static_cast<std::size_t>(code)], code, segments))
-          << name << code;
-      const bool visible = (code > 32 && code < 127) || code > 160;
-      EXPECT_EQ(visible && segments.empty(), false) << name << ' ' << code;
-      for (const FontSegment& s : segments) {
-        EXPECT_TRUE(s.X1 >= 0 && s.X1 <= 1 && s.Y1 >= -0.5F && s.Y1 <= 1.5F) << name << ' ' << code;
-      }
-    }
-  }
 }
 
 }  // namespace

@@ -66,26 +66,24 @@ bool Near(const std::array<float, 4>& got, const std::array<float, 4>& expected)
 
 TEST(DrawFile, ViewersKnowTheirOwnWords) {
   const std::string cross = "c12 w1 -0.5,0>0.5,0; c12 w1 0,-0.5>0,0.5; ";
-  struct Case {
-    const char* text;
-    std::string graphic, preview, editor, small;
-  };
-  const Case cases[] = {
-      {"G01X1Y1\nG00X2Y1\nG01X3\nG01Y2\ng01x4y4\nM06T3\nG01X5Y5",
-       "c255 w3 0,0>1,1; c12 w1 1,1>2,1; c255 w3 2,1>3,1; c255 w3 3,1>3,2; c65280 w3 3,2>5,5; ",
-       "c10 w1 0,0>1,1; c12 w1 1,1>2,1; c10 w1 2,1>3,1; c10 w1 3,1>3,2; c10 w1 3,2>5,5; ",
-       "c10 w3 0,0>1,1; c12 w1 1,1>2,1; c10 w3 2,1>3,1; c10 w3 3,1>3,2; c10 w3 3,2>4,4; c10 w3 4,4>5,5; ",
-       "c0 w1 0,0>1,1; c255 w1 1,1>2,1; c0 w1 2,1>5,5; "},
-      {"W5\nG04\nI1", "o0,0 c12 w3 ; ", "", "o0,0 c12 w3 ; " + cross + cross, ""},
-      // A broken arc ends the pass where the word is known.
-      {"G01X1Y0\nG02X1Y1\nG01X2Y0", "c255 w3 0,0>1,0; ", "c10 w1 0,0>1,0; ", "c10 w3 0,0>1,0; ",
-       "c0 w1 0,0>1,0; c0 w1 1,0>2,0; "},
-      {"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "}};
-  for (const Case& c : cases) {
-    EXPECT_EQ(Draw(Options(Viewer::Graphic), c.text), c.graphic) << c.text;
-    EXPECT_EQ(Draw(Options(Viewer::Preview), c.text), c.preview) << c.text;
-    EXPECT_EQ(Draw(Options(Viewer::Editor), c.text), c.editor) << c.text;
-    EXPECT_EQ(Draw(Options(Viewer::Small), c.text), c.small) << c.text;
+  using Case =
+      std::array<std::string, 5>;  // the text, then what graphic, preview, editor and small show of it
+  for (const auto& [text, graphic, preview, editor, small] :
+       {Case{"G01X1Y1\nG00X2Y1\nG01X3\nG01Y2\ng01x4y4\nM06T3\nG01X5Y5",
+             "c255 w3 0,0>1,1; c12 w1 1,1>2,1; c255 w3 2,1>3,1; c255 w3 3,1>3,2; c65280 w3 3,2>5,5; ",
+             "c10 w1 0,0>1,1; c12 w1 1,1>2,1; c10 w1 2,1>3,1; c10 w1 3,1>3,2; c10 w1 3,2>5,5; ",
+             "c10 w3 0,0>1,1; c12 w1 1,1>2,1; c10 w3 2,1>3,1; c10 w3 3,1>3,2; c10 w3 3,2>4,4; c10 w3 "
+             "4,4>5,5; ",
+             "c0 w1 0,0>1,1; c255 w1 1,1>2,1; c0 w1 2,1>5,5; "},
+        Case{"W5\nG04\nI1", "o0,0 c12 w3 ; ", "", "o0,0 c12 w3 ; " + cross + cross, ""},
+        // A broken arc ends the pass where the word is known.
+        Case{"G01X1Y0\nG02X1Y1\nG01X2Y0", "c255 w3 0,0>1,0; ", "c10 w1 0,0>1,0; ", "c10 w3 0,0>1,0; ",
+             "c0 w1 0,0>1,0; c0 w1 1,0>2,0; "},
+        Case{"G05T1I2\nG01X1Y0", "", "", "", "c0 w1 0,0>1,0; "}}) {
+    EXPECT_EQ(Draw(Options(Viewer::Graphic), text), graphic) << text;
+    EXPECT_EQ(Draw(Options(Viewer::Preview), text), preview) << text;
+    EXPECT_EQ(Draw(Options(Viewer::Editor), text), editor) << text;
+    EXPECT_EQ(Draw(Options(Viewer::Small), text), small) << text;
   }
 }
 

@@ -71,19 +71,14 @@ const std::string kSilence = "Upload: ";
 const std::string kReset = "Morvane: Socket Error: Connection reset by peer";
 const std::string kStuck = " bytes stuck in output buffer";
 
+using Strings = std::vector<std::string>;
+const Strings kLate = {kSilence, "Morvane: DownloadFile-Communication"};
+const Strings kLost = {kSilence, kReset, "Morvane: DownloadFile-Communication"};
+
 const Fault kFaults[] = {
-    {"silent",
-     kCuts,
-     [](Cell& c) { Cut(c, Ending::Silent); },
-     {kSilence, "Morvane: DownloadFile-Communication"}},
-    {"closed",
-     kCuts,
-     [](Cell& c) { Cut(c, Ending::Closes); },
-     {kSilence, "Morvane: DownloadFile-Communication"}},
-    {"reset in the reply",
-     kCuts,
-     [](Cell& c) { Cut(c, Ending::Resets); },
-     {kSilence, kReset, "Morvane: DownloadFile-Communication"}},
+    {"silent", kCuts, [](Cell& c) { Cut(c, Ending::Silent); }, kLate},
+    {"closed", kCuts, [](Cell& c) { Cut(c, Ending::Closes); }, kLate},
+    {"reset in the reply", kCuts, [](Cell& c) { Cut(c, Ending::Resets); }, kLost},
     {"lost while sending",
      kSent,
      [](Cell& c) { c.station.serial.pulledAfter = c.station.tcp.resetAfter = c.place; },
@@ -95,16 +90,12 @@ const Fault kFaults[] = {
      {kSilence}},
     {"slow",
      {1, 4, 9},
-     [](Cell& c) {
-       EveryReply(c, [](test::FakeReply& r, std::size_t n) { r.gap = static_cast<double>(n); });
-     },
-     {kSilence, "Morvane: DownloadFile-Communication"}},
+     [](Cell& c) { EveryReply(c, [](test::FakeReply& r, std::size_t n) { r.gap = double(n); }); },
+     kLate},
     {"noise",
      {100, 5000},
-     [](Cell& c) {
-       EveryReply(c, [](test::FakeReply& r, std::size_t n) { r.bytes = std::string(n, '\x91'); });
-     },
-     {kSilence, "Morvane: DownloadFile-Communication"}},
+     [](Cell& c) { EveryReply(c, [](test::FakeReply& r, std::size_t n) { r.bytes.assign(n, '\x91'); }); },
+     kLate},
     {"without end, until the program closes",
      {10, 500},
      [](Cell& c) {
@@ -178,14 +169,10 @@ void Check(const Operation& operation, bool network, const Fault& fault, Cell& c
   EXPECT_EQ(Names(station, "/base"), (std::vector<std::string>{"A.JOB", "A.TXT", "Morvane.ini", "Temp"}));
   EXPECT_EQ(Names(station, "/tmp"), (std::vector<std::string>{"run.ret"}));
   const std::string stored = operation.name == std::string("run") ? "/tmp/run.ret" : "/base/Temp/got";
-  if (done && operation.replies) {
-    EXPECT_EQ(station.disk.Get(stored), kStored);
-  }
+  EXPECT_TRUE(!done || !operation.replies || station.disk.Get(stored) == kStored);
   // A failure is told, but for the program's end and a timed reply on the serial line.
   const bool untold = station.abort || (operation.replies && !operation.tellsSilence && !network);
-  if (!done && !untold) {
-    EXPECT_FALSE(station.prompts.boxes.empty());
-  }
+  EXPECT_TRUE(done || untold || !station.prompts.boxes.empty());
   Heal(station);
   station.prompts.boxes.clear();
   EXPECT_TRUE(station.comm.UploadFile("QT7250FILE NEXT", "\\Temp\\next"));

@@ -28,8 +28,6 @@ struct Station : test::LinkStation {
   Choose Picks(Strings names) {
     return [this, names](const Names& entries) { return list = entries, names; };
   }
-  common::DialogFolders folders;
-  common::FileDialogs dialogs{prompts, files, folders};
   Names list;
   WrapperSources sources{files, dialogs, prompts, waitWindow, comm};
 };

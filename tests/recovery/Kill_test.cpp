@@ -8,17 +8,20 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <random>
 #include <sstream>
 
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "recovery/EditUntilKilled.h"
+#include "support/FakePrompts.h"
 #include "support/TempFolder.h"
 #include "textjob/RecoveryCopy.h"
+#include "textjob/modTjb.h"
 
 namespace morvane::test {
 namespace {
 
+constexpr const char* kVictimJob = "JOB.TJB";
 constexpr long long kMostLost = 5000;  // milliseconds of editing
 constexpr double kLongestLife = 6;     // seconds
 
@@ -60,7 +63,7 @@ void LiveAndDie(std::vector<std::string> words, double seconds, bool fromLog) {
   ASSERT_TRUE(waitpid(process, &status, 0) == process && WIFSIGNALED(status)) << "it ended by itself";
 }
 
-class Kill : public testing::TestWithParam<const char*> {
+class Kill : public testing::Test {
  protected:
   static std::size_t Hash(const std::string& bytes) { return std::hash<std::string>()(bytes); }
 
@@ -107,7 +110,7 @@ class Kill : public testing::TestWithParam<const char*> {
   long long worst_ = 0;
 };
 
-TEST_P(Kill, LeavesWholeFilesAndFewSecondsAreLost) {
+TEST_F(Kill, LeavesWholeFilesAndFewSecondsAreLost) {
   const int speed = Setting("MORVANE_KILL_SPEED", 10);
   std::mt19937 random{std::random_device()()};
   std::size_t states = 0, restored = 0;
@@ -117,8 +120,8 @@ TEST_P(Kill, LeavesWholeFilesAndFewSecondsAreLost) {
     const std::string before = folder_.Read(kVictimJob);
     aside_.Write("log", "");
     const double life = std::uniform_real_distribution<>(0, kLongestLife / speed)(random);
-    ASSERT_NO_FATAL_FAILURE(LiveAndDie({std::string(MORVANE_BIN_DIR "/") + GetParam(), folder_.Path(),
-                                        aside_ / "log", std::to_string(round), std::to_string(speed)},
+    ASSERT_NO_FATAL_FAILURE(LiveAndDie({MORVANE_BIN_DIR "/form_victim", folder_.Path(), aside_ / "log",
+                                        std::to_string(round), std::to_string(speed)},
                                        life, round % 4 != 0));
     const std::vector<Step> steps = ReadLog(aside_.Read("log"));
     ASSERT_NO_FATAL_FAILURE(CheckFile(steps, before));
@@ -132,16 +135,6 @@ TEST_P(Kill, LeavesWholeFilesAndFewSecondsAreLost) {
   std::cout << states << " steps, " << restored << " restored, at most " << worst_ << " ms lost\n";
   EXPECT_GT(states, 0U);
 }
-
-constexpr const char* kVictims[] = {
-    "core_victim",
-#ifdef MORVANE_UI
-    "form_victim",
-#endif
-};
-
-INSTANTIATE_TEST_SUITE_P(, Kill, testing::ValuesIn(kVictims),
-                         [](const auto& victim) { return std::string(victim.param); });
 
 }  // namespace
 }  // namespace morvane::test

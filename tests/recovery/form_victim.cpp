@@ -5,18 +5,24 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <cmath>
 #include <cstdlib>
+#include <fstream>
+#include <random>
 
 #include "platform/posix/PosixClock.h"
-#include "recovery/EditUntilKilled.h"
 #include "support/qt_WindowStation.h"
 #include "textjob/frmEdit.h"
+#include "textjob/modTjb.h"
 #include "widgets/CellGrid.h"
 
 namespace morvane::test {
 namespace {
 
-class FormVictim : public Victim {
+constexpr const char* kVictimJob = "JOB.TJB";
+
+// The editor that is driven. After a start it holds what was restored, else the saved job, if there is one.
+class FormVictim {
  public:
   FormVictim(const std::string& folder, int speed) : speed_(speed), station_(folder) {
     Wait(0);
@@ -30,9 +36,9 @@ class FormVictim : public Victim {
     Wait(0);
     station_.prompts.answers.clear();
   }
-  const textjob::TextJob& Job() const override { return station_.job; }
+  const textjob::TextJob& Job() const { return station_.job; }
   // Each is one change: what a killed program leaves was told before.
-  void Change(const std::string& comment, std::size_t random) override {
+  void Change(const std::string& comment, std::size_t random) {
     QApplication::clipboard()->setText(QString::fromStdString(comment));
     const std::size_t lines = station_.job.LineCount();
     const std::size_t action = random % 4;
@@ -42,13 +48,13 @@ class FormVictim : public Victim {
     Comments().selectAll();
     Key(Qt::Key_V);
   }
-  void Undo() override { Key(Qt::Key_Z); }
-  void Save() override {
+  void Undo() { Key(Qt::Key_Z); }
+  void Save() {
     station_.prompts.files = {{station_.base + '/' + kVictimJob}};
     Click("cmdSave");
   }
-  double Seconds() const override { return clock_.MonotonicSeconds() * speed_; }
-  void Wait(int milliseconds) override {
+  double Seconds() const { return clock_.MonotonicSeconds() * speed_; }
+  void Wait(int milliseconds) {
     clock_.Sleep(milliseconds / speed_);
     station_.clock.seconds = Seconds();
     WindowStation::Pump();
@@ -77,6 +83,35 @@ class FormVictim : public Victim {
   WindowStation station_;
   textjob::frmEdit* form_ = nullptr;
 };
+
+// Each line of the log: what, a comment, a hash of the whole job, the time in milliseconds. "start" and "now"
+// tell what the job is; "save", "undo" and "change", which names the comment to come, what is about to
+// happen. A line reaches the system at once, so a killed process leaves all of them.
+void EditUntilKilled(FormVictim& victim, const std::string& logPath, unsigned seed) {
+  std::mt19937 random(seed);
+  std::ofstream log(logPath);
+  const auto tell = [&](const char* what, const std::string& comment) {
+    const std::size_t hash = std::hash<std::string>()(textjob::WriteTjb(victim.Job()));
+    log << what << ' ' << comment << ' ' << hash << ' ' << std::llround(victim.Seconds() * 1000) << std::endl;
+  };
+  tell("start", "-");
+  // Often, to be killed in a save; or hardly ever, so that much hangs on the copy.
+  const std::size_t actions = seed % 2 == 0 ? 20 : 1000;
+  for (unsigned number = 1;; ++number) {
+    const std::string comment = std::to_string(seed) + '.' + std::to_string(number);
+    const std::size_t action = random() % actions;
+    tell(action == 0 ? "save" : action < 4 ? "undo" : "change", comment);
+    if (action == 0) {
+      victim.Save();
+    } else if (action < 4) {
+      victim.Undo();
+    } else {
+      victim.Change(comment, random());
+    }
+    tell("now", comment);
+    victim.Wait(static_cast<int>(random() % 50));
+  }
+}
 
 }  // namespace
 }  // namespace morvane::test

@@ -5,14 +5,13 @@
 #include <string>
 
 #include "link/modComm.h"
-#include "support/FakeFileSystem.h"
+#include "support/BaseStation.h"
 #include "support/FakeLinks.h"
-#include "support/FakePrompts.h"
 #include "support/FakeWaitWindow.h"
 
 namespace morvane::test {
 
-struct LinkStation {
+struct LinkStation : BaseStation {
   explicit LinkStation(bool network) {
     disk.Put("/tmp/run.ret", "");
     disk.Put("/base/Temp/x", "");
@@ -24,7 +23,7 @@ struct LinkStation {
       tcp.Pump();
     };
   }
-  void Set(const std::string& settings) { disk.Put("/base/Morvane.ini", "[Settings]\r\n" + settings); }
+  void Set(const std::string& lines) { disk.Put("/base/Morvane.ini", "[Settings]\r\n" + lines); }
   // All boxes as "title: text", with "; " between them.
   std::string Boxes() const {
     std::string text;
@@ -33,11 +32,6 @@ struct LinkStation {
     return text;
   }
 
-  FakeFileSystem disk{"/base"};
-  common::Files files{disk, "/base"};
-  common::Settings values{files};
-  FakeClock clock;
-  FakePrompts prompts;
   FakeWaitWindow waitWindow;
   FakeProgress progress;
   FakeController controller{clock};
@@ -45,7 +39,7 @@ struct LinkStation {
   FakeTcpClient tcp{controller};
   bool abort = false;
   std::function<void()> during;  // in each wait
-  link::Comm comm{{files, values, clock, prompts, waitWindow, progress, serial, tcp, abort}};
+  link::Comm comm{{files, settings, clock, prompts, waitWindow, progress, serial, tcp, abort}};
 };
 
 }  // namespace morvane::test

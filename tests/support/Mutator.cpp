@@ -36,9 +36,9 @@ class Mutator {
 
   std::string Next() {
     static constexpr Damage kDamages[] = {
-        &Mutator::Truncate,   &Mutator::Flip,          &Mutator::Flip,          &Mutator::Erase,
-        &Mutator::InsertRun,  &Mutator::Splice,        &Mutator::InsertWord,    &Mutator::InsertWord,
-        &Mutator::RepeatLine, &Mutator::ReplaceNumber, &Mutator::ReplaceNumber, &Mutator::RandomBytes};
+        &Mutator::Truncate,   &Mutator::Flip,          &Mutator::Flip,         &Mutator::Erase,
+        &Mutator::InsertRun,  &Mutator::Splice,        &Mutator::InsertWord,   &Mutator::InsertWord,
+        &Mutator::RepeatLine, &Mutator::ReplaceNumber, &Mutator::ReplaceNumber};
     std::string text = Any(seeds_);
     for (std::size_t left = 1 + Below(8); left > 0; --left) {
       (this->*kDamages[Below(std::size(kDamages))])(text, Below(text.size() + 1));
@@ -79,11 +79,6 @@ class Mutator {
     if (begin == std::string::npos) return;
     const std::size_t end = std::min(text.find_first_not_of("0123456789.", begin), text.size());
     text.replace(begin, end - begin, Any(numbers_));
-  }
-  void RandomBytes(std::string& text, std::size_t place) {
-    std::string bytes(Below(64), '\0');
-    for (char& byte : bytes) byte = static_cast<char>(random_());
-    text.replace(place, Below(64), bytes);
   }
 
   const std::vector<std::string>& seeds_;

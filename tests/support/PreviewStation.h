@@ -4,11 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "common/Settings.h"
 #include "fonts/GlyphCache.h"
 #include "platform/RecordingCanvas.h"
-#include "support/FakeLocale.h"
-#include "support/FakePrompts.h"
 #include "support/SideProgramStation.h"
 #include "textjob/Preview.h"
 
@@ -17,7 +14,7 @@ namespace morvane::test {
 struct PreviewStation : SideProgramStation {
   PreviewStation() : SideProgramStation("SQRGEN.EXE") {}
 
-  void Put(const std::string& name, const std::string& bytes) { fileSystem.Put("/base/" + name, bytes); }
+  void Put(const std::string& name, const std::string& bytes) { disk.Put("/base/" + name, bytes); }
   void Set(const std::string& key, const std::string& value) {
     settings.SaveSetting(common::kSettingsSection, key, value);
   }
@@ -30,9 +27,6 @@ struct PreviewStation : SideProgramStation {
     return textjob::DrawJob(sources, {job, "JOB.TJB", options, picture, search}, state, canvas);
   }
 
-  FakeLocale locale;
-  FakePrompts prompts;
-  common::Settings settings{files};
   fonts::FontTable font;
   fonts::GlyphCache glyphs{font};
   textjob::TextJob job;

@@ -3,28 +3,23 @@
 
 #include <string>
 
-#include "common/Files.h"
 #include "common/RunAndWait.h"
-#include "support/FakeClock.h"
-#include "support/FakeFileSystem.h"
+#include "support/BaseStation.h"
 #include "support/FakeProcesses.h"
 
 namespace morvane::test {
 
-struct SideProgramStation {
-  explicit SideProgramStation(const std::string& tool) { fileSystem.Put("/base/" + tool, "program"); }
+struct SideProgramStation : BaseStation {
+  explicit SideProgramStation(const std::string& tool) { disk.Put("/base/" + tool, "program"); }
 
   // The next start of a side program writes a file below the base directory and ends.
   void Expect(const std::string& file, const std::string& bytes, int exitCode = 0) {
-    processes.scripts.push_back({true, 1, exitCode, [=, this] { fileSystem.Put("/base/" + file, bytes); }});
+    processes.scripts.push_back({true, 1, exitCode, [=, this] { disk.Put("/base/" + file, bytes); }});
   }
   void ExpectEnd(int exitCode) { processes.scripts.push_back({true, 0, exitCode, {}}); }
   void ExpectNoStart() { processes.scripts.push_back({false, 0, 0, {}}); }
 
-  FakeFileSystem fileSystem{"/base"};
-  FakeClock clock;
   FakeProcesses processes;
-  common::Files files{fileSystem, "/base"};
   bool abort = false;
   common::ProcessRunner runner{processes, clock, files, "/program", abort};
 };

@@ -120,11 +120,6 @@ TEST_F(JobHistoryTest, SettingsAndLockRecordComeBack) {
   EXPECT_EQ(history_.Undo(job_), before);
   EXPECT_FALSE(history_.CanUndo());
   EXPECT_EQ(history_.Redo(job_), after);
-  // A job without lines still moves its image.
-  history_.Note(job_, "", {{{}, lock}, {{}, moved}});
-  EXPECT_EQ(history_.Undo(job_), (textjob::BesideValues{{}, lock}));
-  history_.Note(job_, "", {{{}, lock}, {{}, lock}});
-  EXPECT_TRUE(history_.CanRedo()) << "nothing changed";
 }
 
 TEST_F(JobHistoryTest, ManyStepsAreKeptInBoundedMemory) {

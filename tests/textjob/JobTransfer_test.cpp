@@ -38,8 +38,8 @@ std::string Wire(bool network, const std::vector<Sent>& all) {
 }
 
 struct Station : test::LinkStation {
-  explicit Station(bool network, const std::string& settings = "") : LinkStation(network) {
-    Set((network ? "ComPort=5\r\nIP=10.0.0.7\r\n" : "ComPort=2\r\n") + settings);
+  explicit Station(bool network, const std::string& lines = "") : LinkStation(network) {
+    Set((network ? "ComPort=5\r\nIP=10.0.0.7\r\n" : "ComPort=2\r\n") + lines);
     for (const char* name : {"G.JOB", "C.JOB", "I.JOB", "P.PAN", "D.DM", "F.FIL", "press.pre", "Default.cap",
                              "Default.sca", "K.JOB", "BASE.FIX"}) {
       disk.Put("/base/" + std::string(name), std::string("<") + name + ">\r\n");
@@ -64,11 +64,9 @@ struct Station : test::LinkStation {
     ASSERT_TRUE(document.Open("SUB\\A.TJB"));
   }
   JobTransfer Transfer() {
-    return JobTransfer({files, values, prompts, waitWindow, comm, job, document, fixture});
+    return JobTransfer({files, settings, prompts, waitWindow, comm, job, document, fixture});
   }
 
-  common::DialogFolders folders;
-  common::FileDialogs dialogs{prompts, files, folders};
   TextJob job;
   JobDocument document{job, files, prompts, dialogs};
   bool fixture = false;

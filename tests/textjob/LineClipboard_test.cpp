@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Failure.h"
-
 namespace morvane::test {
 namespace {
 
@@ -52,19 +50,6 @@ TEST(LineClipboard, CutCopyPasteAndDuplicate) {
     EXPECT_EQ(job.Selection, c.selected);
     EXPECT_EQ(job.Dirty, c.lines != "0123");
   }
-}
-
-TEST(LineClipboard, AFullJobTakesNothing) {
-  TextJob job{"", std::vector<std::string>(textjob::kMaxLines - 2, kNew), false, "0,1,2"};
-  const TextJob before = job;
-  const std::string three = textjob::CopyLines(job);
-  EXPECT_EQ(Failure([&] { textjob::PasteLines(job, three); }), "Subscript out of range");
-  EXPECT_EQ(Failure([&] { textjob::DuplicateLines(job); }), "Subscript out of range");
-  EXPECT_EQ(job.Lines, before.Lines);
-  EXPECT_FALSE(job.Dirty);
-  EXPECT_EQ(textjob::PasteLines(job, "no lines\r\n"), 0U);
-  job.Selection = "0,1";
-  EXPECT_EQ(textjob::DuplicateLines(job), 2U);
 }
 
 }  // namespace

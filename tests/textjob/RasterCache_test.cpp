@@ -15,7 +15,7 @@ const std::string kBitmap = "BM............\x28\0\0\0\3\0\0\0\2\0\0\0"s;
 
 class RasterCache : public ::testing::Test {
  protected:
-  RasterCache() { station_.fileSystem.Put("/base/logo.ras", "raster"); }
+  RasterCache() { station_.disk.Put("/base/logo.ras", "raster"); }
 
   RasterBitmap Draw(const std::string& name = "LOGO.RAS") {
     FailedRasters failed;
@@ -35,11 +35,11 @@ TEST_F(RasterCache, BakesOnlyForANewerRaster) {
   EXPECT_EQ(station_.processes.runs[0].arguments,
             (std::vector<std::string>{"/R", ".\\LOGO.RAS", ".\\Temp\\LOGO.BMP"}));
 
-  station_.fileSystem.SetModified("/base/logo.ras", 5);
-  station_.fileSystem.SetModified("/base/Temp/LOGO.BMP", 5);
+  station_.disk.SetModified("/base/logo.ras", 5);
+  station_.disk.SetModified("/base/Temp/LOGO.BMP", 5);
   EXPECT_EQ(Draw().status, RasterStatus::Ready);
   EXPECT_EQ(Runs(), 1U);
-  station_.fileSystem.Put("/base/logo.ras", "changed");
+  station_.disk.Put("/base/logo.ras", "changed");
   station_.Expect("Temp/LOGO.BMP", kBitmap);
   EXPECT_EQ(Draw().status, RasterStatus::Ready);
   EXPECT_EQ(Runs(), 2U);
@@ -57,19 +57,19 @@ TEST_F(RasterCache, AFailedBakeLeavesNoBitmapAndIsTriedAgainByTheNextPass) {
       EXPECT_EQ(BuildRasterBitmap(station_.runner, "LOGO.RAS", failed).status,
                 run == 1 ? RasterStatus::ToolNotFound : RasterStatus::Failed);
     }
-    EXPECT_FALSE(station_.fileSystem.Has("/base/Temp/LOGO.BMP"));
+    EXPECT_FALSE(station_.disk.Has("/base/Temp/LOGO.BMP"));
     EXPECT_EQ(Runs(), run);
   }
 }
 
 TEST_F(RasterCache, RastersNeverShareABitmap) {
-  station_.fileSystem.Put("/base/SUB.1/LOGO.RAS", "another raster");
+  station_.disk.Put("/base/SUB.1/LOGO.RAS", "another raster");
   station_.Expect("Temp/SUB.1$LOGO.BMP", kBitmap);
   EXPECT_EQ(Draw("SUB.1\\LOGO.RAS").bitmap, "\\Temp\\SUB.1$LOGO.BMP");
 }
 
 TEST_F(RasterCache, NoToolForARasterThatCannotBeUsed) {
-  station_.fileSystem.Put("/other.ras", "raster");
+  station_.disk.Put("/other.ras", "raster");
   for (const char* name : {"NONE.RAS", "", "..\\other.ras", "/other.ras", "C:other.ras"}) {
     EXPECT_EQ(Draw(name).status, RasterStatus::Failed) << name;
   }

@@ -20,10 +20,6 @@
 namespace morvane::textjob {
 namespace {
 
-// Types whose `Text` names a file that is read for drawing.
-const std::set<std::int32_t> kFileTypes = {kGraphic,    kPanel,    kDataMatrix, kImage,
-                                           kClosedPath, kParkPath, kRaster};
-
 class StationJobs : public testing::Test {
  protected:
   StationJobs() {
@@ -38,14 +34,6 @@ class StationJobs : public testing::Test {
     station.Put("PIXBAKE.EXE", "program");
   }
 
-  std::vector<TextJobLine> Load(const std::string& name) {
-    TextJob job;
-    EXPECT_TRUE(LoadTjbFile(job, name, station.files, station.prompts)) << name;
-    raw = job.Lines;
-    std::vector<TextJobLine> lines;
-    for (const std::string& line : raw) lines.push_back(ParseTjbLine(line));
-    return lines;
-  }
   // Gives each document of a kind to `rewrite`, which reads and writes it.
   template <typename Rewrite>
   void ExpectUnchanged(const char* pattern, const Rewrite& rewrite) {
@@ -58,21 +46,25 @@ class StationJobs : public testing::Test {
   }
 
   test::PreviewStation station;
-  std::vector<std::string> raw;  // the lines of the job loaded last
 };
 
 TEST_F(StationJobs, DrawWithoutAMessageWithEachFixture) {
+  const std::set<std::int32_t> kFileTypes = {kGraphic,    kPanel,    kDataMatrix, kImage,
+                                             kClosedPath, kParkPath, kRaster};
   std::vector<std::string> fixtures = station.files.List("*.FIX");
   EXPECT_EQ(fixtures.size(), 5U);
   fixtures.emplace_back();
   for (const std::string& name : station.files.List("*.TJB")) {
-    for (const TextJobLine& line : Load(name)) {
-      if (!kFileTypes.count(line.Type)) continue;
-      EXPECT_TRUE(station.files.FileExists(line.Text)) << name << ' ' << line.Text;
+    TextJob job;
+    ASSERT_TRUE(LoadTjbFile(job, name, station.files, station.prompts)) << name;
+    for (const std::string& line : job.Lines) {
+      const TextJobLine record = ParseTjbLine(line);
+      EXPECT_TRUE(kFileTypes.count(record.Type) == 0 || station.files.FileExists(record.Text)) << line;
     }
     for (const std::string& fixture : fixtures) {
       station.Set("Fixture", fixture);
-      EXPECT_EQ(station.Draw(raw, {true, true, true, true, !fixture.empty()}).labels.size(), raw.size());
+      EXPECT_EQ(station.Draw(job.Lines, {true, true, true, true, !fixture.empty()}).labels.size(),
+                job.LineCount());
       EXPECT_GT(station.canvas.Segments().size(), 100U) << name;
       EXPECT_THAT(station.prompts.Texts(), testing::IsEmpty()) << name << ' ' << fixture;
     }
@@ -91,13 +83,13 @@ TEST_F(StationJobs, EveryDocumentIsAsTheProgramWritesIt) {
     }
     return WriteTjb(job);
   });
-  ExpectUnchanged("*.FIX",
-                  [](const auto& bytes) { return recipes::FormatFixture(recipes::ParseFixture(bytes)); });
-  ExpectUnchanged(
-      "*.PAN", [](const auto& bytes) { return gcode::panel::FormatPanel(gcode::panel::ParsePanel(bytes)); });
+  using namespace datamatrix;
+  using namespace gcode::panel;
+  using namespace recipes;
+  ExpectUnchanged("*.FIX", [](const auto& bytes) { return FormatFixture(ParseFixture(bytes)); });
+  ExpectUnchanged("*.PAN", [](const auto& bytes) { return FormatPanel(ParsePanel(bytes)); });
   ExpectUnchanged("*.DM", [](const auto& bytes) {
-    return datamatrix::FormatDataMatrix(
-        datamatrix::ParseDataMatrix(bytes, datamatrix::MissingMarker::Empties));
+    return FormatDataMatrix(ParseDataMatrix(bytes, MissingMarker::Empties));
   });
 }
 

@@ -1,6 +1,8 @@
 // A job with a line of every type, made from nothing in the window with keys and mouse, and sent. The file
 // that it must become lies beside this test; it was written by hand.
+#include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
@@ -73,10 +75,11 @@ class EditSession : public ::testing::Test {
     WindowStation::Pump();
     EXPECT_EQ(grid->CellText(RowOf(label), 1), value) << label.toStdString();
   }
-  void AddLine(const QString& type, const std::vector<std::pair<const char*, const char*>>& rows) {
+  // Rows as "label=value", with bars between them.
+  void AddLine(const QString& type, const QString& rows) {
     Click("cmdNewLine");
     if (type != "Normal") Enter("Type", type);
-    for (const auto& [label, value] : rows) Enter(label, value);
+    for (const QString& row : rows.split('|')) Enter(row.section('=', 0, 0), row.section('=', 1));
   }
   // Answers the next modal dialog.
   void InDialog(std::function<void(QDialog&)> act) {
@@ -93,67 +96,33 @@ class EditSession : public ::testing::Test {
 };
 
 TEST_F(EditSession, AllTypesFromNothingToTheMachine) {
-  AddLine("Normal", {{"Text", "Plate, A"},
-                     {"Font", "FONT2"},
-                     {"Height", ".25"},
-                     {"Compress", ".8"},
-                     {"Justify", "Center"},
-                     {"X pos", "1"},
-                     {"Y pos", "1.5"},
-                     {"Side", "2"},
-                     {"Width", ".2"},
-                     {"Spacing", ".05"},
-                     {"Tool #", "2"},
-                     {"Depth", ".01M.02"}});
-  AddLine("Serial", {{"Serial", "0042"},
-                     {"Incr", "5"},
-                     {"Style", "ArcText"},
-                     {"Angle", "45"},
-                     {"Radius", "2.5"},
-                     {"X pos", "2"},
-                     {"Y pos", "2"}});
-  AddLine("Graphic", {{"Graphic", "PARK"},
-                      {"Compress", ".5"},
-                      {"X pos", "3"},
-                      {"Y pos", "1"},
-                      {"Tool #", "3"},
-                      {"Depth", "0.1"}});
-  AddLine("DateCode", {{"DateCode", "YYYY-MM-DD"}, {"Style", "Angular"}, {"Angle", "30"}});
-  AddLine("Move", {{"X pos", "4"}, {"Y pos", ".5"}});
-  AddLine("Panel", {{"Panel", "SHEET"}, {"X pos", "1"}});
-  AddLine("Data Matrix", {{"Data Matrix", "CODE"}, {"Y pos", "1"}});
-  AddLine("Fill", {{"Fill", "FILL1"}, {"Depth", "M.5"}});
-  AddLine("Variable", {{"Text", "Lot"},
-                       {"Prompt", "Lot, please"},
-                       {"Style", "RadiusText"},
-                       {"Angle", "180"},
-                       {"Radius", "-1"},
-                       {"Location", "Inside"}});
-  AddLine("Image", {{"Image", "LOGO"}, {"Scale X", "2"}, {"Scale Y", ".5"}, {"Rotate", "90"}});
-  AddLine("Cap", {{"Cap", "Cap two"}});
-  AddLine("Scale", {{"Scale", "Bottle"}});
-  AddLine("Start Position", {{"X pos", ".1"}, {"Y pos", ".2"}, {"Depth", ".3"}});
-  AddLine("Closed Path", {{"Closed Path", "PARK"},
-                          {"Rotate", "45"},
-                          {"Late Start", ".1"},
-                          {"Late End", ".2"},
-                          {"Early Shut", ".3"},
-                          {"Overlap", ".4"},
-                          {"Overlap Ht", ".5"}});
-  AddLine("Pressure", {{"Pressure", "LOW"}});
-  AddLine("Park Path", {{"Park Path", "PARK"}});
-  AddLine("Raster", {{"Raster", "PHOTO"},
-                     {"Width", "2"},
-                     {"Height", "1.5"},
-                     {"Margin", ".1"},
-                     {"Backlash", ".05"},
-                     {"Keep Ratio", "Yes"}});
+  AddLine("Normal",
+          "Text=Plate, A|Font=FONT2|Height=.25|Compress=.8|Justify=Center|X pos=1|Y "
+          "pos=1.5|Side=2|Width=.2|Spacing=.05|Tool #=2|Depth=.01M.02");
+  AddLine("Serial", "Serial=0042|Incr=5|Style=ArcText|Angle=45|Radius=2.5|X pos=2|Y pos=2");
+  AddLine("Graphic", "Graphic=PARK|Compress=.5|X pos=3|Y pos=1|Tool #=3|Depth=0.1");
+  AddLine("DateCode", "DateCode=YYYY-MM-DD|Style=Angular|Angle=30");
+  AddLine("Move", "X pos=4|Y pos=.5");
+  AddLine("Panel", "Panel=SHEET|X pos=1");
+  AddLine("Data Matrix", "Data Matrix=CODE|Y pos=1");
+  AddLine("Fill", "Fill=FILL1|Depth=M.5");
+  AddLine("Variable", "Text=Lot|Prompt=Lot, please|Style=RadiusText|Angle=180|Radius=-1|Location=Inside");
+  AddLine("Image", "Image=LOGO|Scale X=2|Scale Y=.5|Rotate=90");
+  AddLine("Cap", "Cap=Cap two");
+  AddLine("Scale", "Scale=Bottle");
+  AddLine("Start Position", "X pos=.1|Y pos=.2|Depth=.3");
+  AddLine("Closed Path",
+          "Closed Path=PARK|Rotate=45|Late Start=.1|Late End=.2|Early Shut=.3|Overlap=.4|Overlap Ht=.5");
+  AddLine("Pressure", "Pressure=LOW");
+  AddLine("Park Path", "Park Path=PARK");
+  AddLine("Raster", "Raster=PHOTO|Width=2|Height=1.5|Margin=.1|Backlash=.05|Keep Ratio=Yes");
   auto& comments = Find<QLineEdit>(*form, "txtComments");
   EXPECT_TRUE(comments.text().startsWith("Job created by Morvane on "));
   comments.selectAll();
   QTest::keyClicks(&comments, "All types");
 
   InDialog([](QDialog& reorder) {
+    EXPECT_EQ(reorder.windowTitle(), "Reorder");
     auto& list = Find<QListWidget>(reorder, "List1");
     EXPECT_EQ(list.item(4)->text(), "MOVE  (4,0.5)");
     EXPECT_EQ(list.item(12)->text(), "START  (0.1,0.2)");
@@ -164,6 +133,13 @@ TEST_F(EditSession, AllTypesFromNothingToTheMachine) {
   Click("cmdReorder");
   InDialog([](QDialog& offset) {
     EXPECT_EQ(offset.windowTitle(), "Offset TJB File");
+    for (const auto& [name, text] : {std::pair{"labXOffset", "&X Offset (in)"},
+                                     {"labYOffset", "&Y Offset (in)"},
+                                     {"labDepthOffset", "&Depth Offset (in)"}}) {
+      EXPECT_EQ(Find<QLabel>(offset, name).text(), text);
+    }
+    auto& byObject = Find<QCheckBox>(offset, "chkOffsetyByObject");
+    EXPECT_TRUE(byObject.text() == "Offset &by Object" && !byObject.isVisible());
     const std::pair<const char*, const char*> fields[] = {
         {"txtXOffset", "1"}, {"txtYOffset", "-.5"}, {"txtDepthOffset", ".001"}};
     for (const auto& [name, value] : fields) {

@@ -2,25 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "support/FakeClock.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakeLocale.h"
-#include "support/FakePrompts.h"
+#include "support/BaseStation.h"
 
 namespace morvane::textjob {
 namespace {
 
-class DateCode : public testing::Test {
+class DateCode : public testing::Test, public test::BaseStation {
  protected:
   DateCode() { clock.now = {2026, 3, 9, 14, 5, 7}; }
 
   std::string Date(const std::string& pattern) const { return ExpandDateCode(pattern, sources); }
   std::string Text(const std::string& text) const { return ExpandText(text, sources); }
 
-  test::FakeFileSystem fileSystem{"/base"};
-  common::Files files{fileSystem, "/base"};
-  test::FakeClock clock;
-  test::FakeLocale locale;
   ExpansionSources sources{clock, locale, files};
 };
 
@@ -71,7 +64,7 @@ TEST_F(DateCode, DaysAndWeeksOfOddYears) {
 }
 
 TEST_F(DateCode, SectionsOfText) {
-  fileSystem.Put(
+  disk.Put(
       "/base/SERIALS.TJB",
       "COMMENT,1,\r\n0,0,0,0,F,0,0,0,0,x@@\r\n1,0,0,0,F,0,1,0,0,A100@@,1\r\n1,0,0,0,F,0,1,0,0,B200@@,1\r\n");
   using Case = std::pair<const char*, const char*>;
@@ -87,9 +80,9 @@ TEST_F(DateCode, SectionsOfText) {
 
 // A serial number that holds its own section would grow for ever.
 TEST_F(DateCode, GrowingTextStopsAtTheLimit) {
-  fileSystem.Put("/base/A.TJB", "1,0,0,0,F,0,1,0,0,%%A.1%%%%A.1%%@@,\r\n");
+  disk.Put("/base/A.TJB", "1,0,0,0,F,0,1,0,0,%%A.1%%%%A.1%%@@,\r\n");
   EXPECT_LE(Text("%%A.1%%").size(), kMaxExpandedLength);
-  fileSystem.Put("/base/B.TJB", "1,0,0,0,F,0,1,0,0,x%%B.1%%@@,\r\n");
+  disk.Put("/base/B.TJB", "1,0,0,0,F,0,1,0,0,x%%B.1%%@@,\r\n");
   EXPECT_LE(Text("%%B.1%%").size(), kMaxExpandedLength);
 }
 
@@ -100,7 +93,7 @@ TEST_F(DateCode, Escapes) {
         Case{"\\x4", "\\x4", false}, Case{"\\x00\\x41", "\\x00\\x41", true},
         Case{"\\x41\\x1A", "A\\x1A", true}, Case{"\\x41\\xzz\\x42", "A\\xzz\\x42", true},
         Case{"\\x4G", "\x04", false}, Case{"\\xFF", "\xFF", false}, Case{"\\x5cx41", "A", false}}) {
-    test::FakePrompts prompts;
+    prompts.boxes.clear();
     EXPECT_EQ(ExpandEscapes(text, prompts), expanded) << text;
     const std::vector<std::string> told(isTold ? 1 : 0,
                                         "Escape sequence code NULL(\\x00) and ^Z(\\x1A) are not supported.");

@@ -5,10 +5,7 @@
 #include <sstream>
 
 #include "common/RunTimeError.h"
-#include "support/FakeClock.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakeLocale.h"
-#include "support/FakePrompts.h"
+#include "support/BaseStation.h"
 #include "textjob/JobFile.h"
 #include "textjob/TjbFields.h"
 
@@ -28,16 +25,15 @@ std::string Show(const TextJobLine& line) {
 }
 
 TEST(Tjb, ParsesALineInTheFilesOrder) {
+  const char* const line =
+      "9,1,2,3,font1.fnt,3,4,5,6,a,b@@,7,8,9,.5M1.5,1,Ask, please@@,10,11,12,1,13,14,15,16,17,0,18,19,20,21";
   EXPECT_EQ(
-      Show(
-          ParseTjbLine("9,1,2,3,font1.fnt,3,4,5,6,a,b@@,7,8,9,0.5M1.5,1,Ask, please@@,10,11,12,1,13,14,15,16,"
-                       "17,0,18,19,20,21")),
+      Show(ParseTjbLine(line)),
       "Type=9 XPos=1 YPos=2 Height=3 Compress=7 Font=FONT1.FNT Text=A,B Style=3 Angle=5 Radius=6 Incr=4 "
-      "Side=8 "
-      "Tool=9 Depth=0.5 Depth2=1.5 Justify=1 Prompt=Ask, please ScaleX=10 ScaleY=11 Rotate=12 Location=1 "
+      "Side=8 Tool=9 Depth=0.5 Depth2=1.5 Justify=1 Prompt=Ask, please ScaleX=10 ScaleY=11 Rotate=12 "
+      "Location=1 "
       "LateStart=13 LateEnd=14 EarlyShut=15 Overlap=16 OverlapHt=17 Width=18 KeepRatio=0 Margin=19 "
-      "Backlash=20 "
-      "Spacing=21 ");
+      "Backlash=20 Spacing=21 ");
 }
 
 TEST(Tjb, TextOfOddLines) {
@@ -69,18 +65,14 @@ TEST(Tjb, CorrectionsAndBadNumbers) {
 }
 
 TEST(TjbWords, StandUnderTheirNumbers) {
-  const struct {
-    Words table;
-    std::vector<std::string_view> words;
-  } tables[] = {
-      {LineTypeWords(),
-       {"Normal", "Serial", "Graphic", "DateCode", "Move", "Panel", "Data Matrix", "Fill", "Variable",
-        "Image", "Cap", "Scale", "Start Position", "Closed Path", "Pressure", "Park Path", "Raster"}},
-      {StyleWords(), {"Regular", "ArcText", "Angular", "RadiusText"}},
-      {JustifyWords(), {"Left", "Center", "Right"}},
-      {LocationWords(), {"Outside", "Inside"}},
-      {KeepRatioWords(), {"No", "Yes"}}};
-  for (const auto& [table, words] : tables) {
+  using Case = std::pair<Words, std::vector<std::string_view>>;
+  for (const auto& [table, words] :
+       {Case{LineTypeWords(),
+             {"Normal", "Serial", "Graphic", "DateCode", "Move", "Panel", "Data Matrix", "Fill", "Variable",
+              "Image", "Cap", "Scale", "Start Position", "Closed Path", "Pressure", "Park Path", "Raster"}},
+        Case{StyleWords(), {"Regular", "ArcText", "Angular", "RadiusText"}},
+        Case{JustifyWords(), {"Left", "Center", "Right"}}, Case{LocationWords(), {"Outside", "Inside"}},
+        Case{KeepRatioWords(), {"No", "Yes"}}}) {
     EXPECT_EQ(std::vector<std::string_view>(table.begin(), table.end()), words);
     EXPECT_EQ(WordIndex(table, words.back()), static_cast<std::int32_t>(words.size()) - 1);
     EXPECT_EQ(WordIndex(table, "none"), 0);
@@ -107,23 +99,19 @@ TEST(Tjb, Rewrite) {
   }
 }
 
-class TjbFile : public testing::Test {
+class TjbFile : public testing::Test, public test::BaseStation {
  protected:
-  test::FakeFileSystem fileSystem{"/base"};
-  common::Files files{fileSystem, "/base"};
-  test::FakePrompts prompts;
   TextJob job;
 };
 
 TEST_F(TjbFile, RoundTrip) {
   const std::string bytes = "COMMENT,A, b \xE9\r\n0,0,0,1,F,0,0,0,0,x@@\r\n4\r\ncomment,no\r\n";
-  fileSystem.Put("/base/A.TJB",
-                 "COMMENT,first\n\n0,0,0,1,F,0,0,0,0,x@@\r4\nCOMMENT,A, b \xE9\r\n\r\ncomment,no");
+  disk.Put("/base/A.TJB", "COMMENT,first\n\n0,0,0,1,F,0,0,0,0,x@@\r4\nCOMMENT,A, b \xE9\r\n\r\ncomment,no");
   ASSERT_TRUE(LoadTjbFile(job, "a.tjb", files, prompts));
   job.Dirty = true;
   ASSERT_TRUE(SaveTjbFile(job, "B.TJB", files, prompts));
   EXPECT_FALSE(job.Dirty);
-  EXPECT_EQ(fileSystem.Get("/base/B.TJB"), bytes);
+  EXPECT_EQ(disk.Get("/base/B.TJB"), bytes);
 }
 
 TEST_F(TjbFile, OneLineTooMany) {
@@ -131,7 +119,7 @@ TEST_F(TjbFile, OneLineTooMany) {
   for (std::size_t i = 0; i < kMaxLines; ++i) bytes += "4\r\n\r\n";
   ReadTjb(bytes, job);
   EXPECT_EQ(job.LineCount(), kMaxLines);
-  fileSystem.Put("/base/BIG.TJB", bytes + "12\r\nCOMMENT,too late\r\n");
+  disk.Put("/base/BIG.TJB", bytes + "12\r\nCOMMENT,too late\r\n");
   EXPECT_FALSE(LoadTjbFile(job, "BIG.TJB", files, prompts));
   EXPECT_EQ(prompts.Texts(), std::vector<std::string>{"Load(BIG.TJB) Subscript out of range"});
   EXPECT_EQ(job.LineCount(), kMaxLines);
@@ -141,18 +129,18 @@ TEST_F(TjbFile, OneLineTooMany) {
 
 TEST_F(TjbFile, FailuresAreToldAndTheOldFileStays) {
   EXPECT_FALSE(LoadTjbFile(job, "NONE.TJB", files, prompts));
-  fileSystem.Put("/base/A.TJB", "old");
-  fileSystem.faults.bytesLeft = 3;
+  disk.Put("/base/A.TJB", "old");
+  disk.faults.bytesLeft = 3;
   job.Dirty = true;
   EXPECT_FALSE(SaveTjbFile(job, "A.TJB", files, prompts));
-  fileSystem.faults = {};
-  fileSystem.SetWritable("/base/A.TJB", false);
+  disk.faults = {};
+  disk.SetWritable("/base/A.TJB", false);
   EXPECT_FALSE(SaveTjbFile(job, "A.TJB", files, prompts));
   EXPECT_EQ(prompts.Texts(),
             (std::vector<std::string>{"Load(NONE.TJB) File not found", "Save(A.TJB) Disk full",
                                       "Save(A.TJB) Permission denied"}));
   EXPECT_TRUE(job.Dirty);
-  EXPECT_EQ(fileSystem.Get("/base/A.TJB"), "old");
+  EXPECT_EQ(disk.Get("/base/A.TJB"), "old");
 }
 
 TEST_F(TjbFile, NewJobKeepsTheComment) {
@@ -164,8 +152,6 @@ TEST_F(TjbFile, NewJobKeepsTheComment) {
 }
 
 TEST_F(TjbFile, NewLine) {
-  const test::FakeClock clock;
-  const test::FakeLocale locale;
   const auto add = [&](const char* name, const char* ini) {
     return NewJobLine(job, name, common::SettingsSnapshot(ini), clock, locale);
   };
@@ -176,7 +162,7 @@ TEST_F(TjbFile, NewLine) {
 }
 
 TEST_F(TjbFile, JobListHoldsTheWantedJob) {
-  for (const char* name : {"/base/b.tjb", "/base/A.TJB", "/base/A.JOB"}) fileSystem.Put(name, "");
+  for (const char* name : {"/base/b.tjb", "/base/A.TJB", "/base/A.JOB"}) disk.Put(name, "");
   std::size_t selected = 0;
   EXPECT_EQ(JobList(files, "B.TJB", selected), (std::vector<std::string>{"<NEW>", "A.TJB", "b.tjb"}));
   EXPECT_EQ(selected, 2U);

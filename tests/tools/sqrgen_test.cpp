@@ -54,12 +54,11 @@ std::string Generate(ToolFolder& folder, const std::string& content, const std::
   return std::to_string(rows.size()) + "x" + std::to_string(rows.front().size());
 }
 
+// Name, and the standard's capacity for digits.
 struct Size {
   const char* name;
-  std::size_t digits;  // the standard's capacity for digits
-};
-
-constexpr Size kSizes[] = {
+  std::size_t digits;
+} constexpr kSizes[] = {
     {"10x10", 6},      {"12x12", 10},     {"14x14", 16},     {"16x16", 24},     {"18x18", 36},
     {"20x20", 44},     {"22x22", 60},     {"24x24", 72},     {"26x26", 88},     {"32x32", 124},
     {"36x36", 172},    {"40x40", 228},    {"44x44", 288},    {"48x48", 348},    {"52x52", 408},

@@ -72,16 +72,6 @@ TEST_F(CanvasViewTest, TheWheelZoomsAtThePointerAndKeysFitAgain) {
   }
 }
 
-TEST_F(CanvasViewTest, TheMiddleButtonAndTheArrowsMoveTheView) {
-  QTest::mousePress(&view_, Qt::MiddleButton, {}, {100, 100});
-  QTest::mouseMove(&view_, {150, 120});
-  QTest::mouseRelease(&view_, Qt::MiddleButton, {}, {150, 120});
-  ExpectNear(view_.ToWorld({150, 120}), {2, 2});
-  QTest::keyClick(&view_, Qt::Key_Right);
-  QTest::keyClick(&view_, Qt::Key_Down);
-  ExpectNear(view_.ToWorld({150, 120}), {2.8, 2.4});
-}
-
 TEST_F(CanvasViewTest, ADragSpansARectangleAndAClickStaysAClick) {
   view_.SetRubberBand(true);
   QStringList told;

@@ -190,20 +190,6 @@ TEST_F(CellGridTest, KeysGoThroughTheRowsAndOut) {
   EXPECT_EQ(Text().text(), "c");
 }
 
-TEST_F(CellGridTest, AClickOpensTheEditorAndLeavingClosesIt) {
-  using Case = std::tuple<int, int, const char*, const char*>;
-  for (const auto& [row, column, told, focus] :
-       {Case{kX, 0, "at 3", "txtSelect"}, Case{kType, 1, "at 1", "cmbSelect"},
-        Case{kDpi, 1, "at 2", "grid"}}) {
-    QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {}, Middle(row, column));
-    EXPECT_EQ(Told(), told);
-    EXPECT_EQ(Focus()->objectName(), focus);
-  }
-  after_.setFocus();
-  EXPECT_FALSE(grid_.EditorOpen());
-  EXPECT_EQ(Focus(), &after_);
-}
-
 TEST_F(CellGridTest, ListsOfferTheirChoicesInFull) {
   Go(kType, true);
   auto& list = Find<QComboBox>(grid_, "cmbSelect");
@@ -236,14 +222,6 @@ TEST_F(CellGridTest, TheWheelStepsTheCurrentValueAndScrollsElsewhere) {
   after_.setFocus();
   Wheel(kX, 120);
   EXPECT_EQ(Told(), "") << "nobody edits here";
-  // The editor goes along.
-  for (int i = 0; i < 40; ++i) rows_.push_back({QString("Row %1").arg(i), ""});
-  grid_.SetRows(rows_);
-  grid_.OpenEditor();
-  const int top = Text().y();
-  Wheel(kText, -120);
-  EXPECT_LT(Text().y(), top);
-  EXPECT_EQ(Text().geometry(), Cell());
 }
 
 TEST_F(CellGridTest, InputMethodsTypeIntoTheGrid) {

@@ -59,14 +59,6 @@ TEST_F(QtCanvasTest, PensAreAsWideAsToldOnEveryScreen) {
   }
 }
 
-TEST_F(QtCanvasTest, BoxesSideBySideLeaveNoSeam) {
-  const QImage image = Paint(1, [](platform::Canvas& canvas) {
-    for (int i = 0; i < 10; ++i) canvas.Box({1 + static_cast<float>(i) * 0.37F, 1, 0.37F, 2}, kBlue, true);
-  });
-  EXPECT_EQ(Count(image, QRect(10, 10, 37, 20), Qt::blue), 37 * 20);
-  EXPECT_EQ(Count(image, image.rect(), Qt::blue), 37 * 20);
-}
-
 TEST_F(QtCanvasTest, WhatNoScreenCanHoldDoesNoHarm) {
   constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
   constexpr float kHuge = 1e30F;

@@ -8,7 +8,6 @@
 
 #include "platform/qt/QtLocale.h"
 #include "platform/qt/QtSystem.h"
-#include "support/TempFolder.h"
 
 namespace morvane::test {
 namespace {
@@ -26,17 +25,6 @@ TEST(QtLocale, NamesAndDatesAreTheLocales) {
   EXPECT_EQ(german.ShortDate({2026, 3, 9, 0, 0, 0}), "09.03.26");
   EXPECT_EQ(platform::QtLocale(QLocale("fr_FR")).MonthShortName(2), "f\xE9vr.");
   EXPECT_EQ(platform::QtLocale(QLocale::c()).MonthShortName(12), "Dec");
-}
-
-TEST(QtSystem, OneInstanceForEachBaseDirectory) {
-  const TempFolder one;
-  const TempFolder two;
-  auto first = std::make_unique<platform::SingleInstance>(one.Path());
-  EXPECT_TRUE(first->First());
-  EXPECT_FALSE(platform::SingleInstance(one.Path() + "/.").First());
-  EXPECT_TRUE(platform::SingleInstance(two.Path()).First());
-  first.reset();
-  EXPECT_TRUE(platform::SingleInstance(one.Path()).First());
 }
 
 TEST(QtSystem, ClosesWindowsByTheirWholeTitle) {
