@@ -40,6 +40,7 @@ struct Cell {
   LinkStation& station;
   std::size_t place;
   int waits = 0;
+  double acted = 0;  // when it happened
 };
 
 struct Fault {
@@ -61,7 +62,9 @@ void Cut(Cell& cell, Ending ending) {
 // At the wait of that number.
 void Later(Cell& cell, void (*what)(LinkStation&)) {
   cell.station.during = [&cell, what] {
-    if (++cell.waits == static_cast<int>(cell.place)) what(cell.station);
+    if (++cell.waits != static_cast<int>(cell.place)) return;
+    cell.acted = cell.station.clock.seconds;
+    what(cell.station);
   };
 }
 
@@ -160,6 +163,8 @@ void Check(const Operation& operation, bool network, const Fault& fault, Cell& c
   LinkStation& station = cell.station;
   CheckBoxes(station, fault);
   EXPECT_LT(station.clock.seconds, kLongest);
+  EXPECT_TRUE(!station.abort || station.clock.seconds <= cell.acted + 0.11)
+      << "a closing program waits for nothing";
   EXPECT_FALSE(station.serial.IsOpen());
   EXPECT_EQ(station.tcp.State(), platform::TcpState::Closed);
   EXPECT_EQ(station.comm.Owner().Now(), LinkOwner::State::Idle);

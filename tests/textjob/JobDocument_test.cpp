@@ -4,6 +4,7 @@
 
 #include "support/BaseStation.h"
 #include "textjob/PositionText.h"
+#include "textjob/Selection.h"
 
 namespace morvane::test {
 namespace {
@@ -66,6 +67,13 @@ TEST_F(JobDocumentTest, LeavingAChangedJob) {
     if (!c.leaves) {
       EXPECT_EQ(prompts.boxes.at(1).text, "Save(A.TJB) Permission denied");
     }
+  }
+}
+
+TEST(Selection, LinesAreToggled) {
+  const char* const toggles[][3] = {{"", "4", "4"}, {"4", "4", ""}, {"3,7,8", "7", "3,8"}, {"8", "3", "8,3"}};
+  for (const auto& [before, line, after] : toggles) {
+    EXPECT_EQ(textjob::ToggleLine(before, std::atoi(line)), after);
   }
 }
 
