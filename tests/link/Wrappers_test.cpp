@@ -154,6 +154,14 @@ TEST(Verify, TellsTheFirstDifference) {
     EXPECT_EQ(station.Boxes(), (box[0] == 'U' ? "" : "Morvane: ") + box);
     EXPECT_EQ(station.waitWindow.texts.front(), "Verifying A.TJB" + kWait);
   }
+  // One byte of a block stands behind a long file that came over the network.
+  for (const auto& [surplus, verified] : {std::pair{"x", true}, {"", true}, {"y", false}}) {
+    Station station;
+    const std::string file(3000, 'x');
+    station.disk.Put("/base/A.TJB", file);
+    station.controller.replies["QT7250FILE A.TJB"] = {file + surplus + "\r\nENDFILE\r\n"};
+    EXPECT_EQ(VerifyFile(station.sources, "A.TJB", "A.TJB"), verified) << surplus;
+  }
   Station station;
   EXPECT_FALSE(VerifyFile(station.sources, "NONE.TJB", "B.TJB"));
   EXPECT_EQ(station.Boxes(), "Morvane: VerifyFile-File not found");
