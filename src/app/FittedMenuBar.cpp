@@ -42,6 +42,11 @@ FittedMenuBar::FittedMenuBar(QWidget* parent) : QMenuBar(parent), style_(new Clo
 
 FittedMenuBar::~FittedMenuBar() = default;
 
+void FittedMenuBar::showEvent(QShowEvent* event) {
+  Fit();
+  QMenuBar::showEvent(event);
+}
+
 void FittedMenuBar::resizeEvent(QResizeEvent* event) {
   Fit();
   QMenuBar::resizeEvent(event);
@@ -76,7 +81,8 @@ int FittedMenuBar::Needed(const QFont& font) const {
 }
 
 void FittedMenuBar::Fit() {
-  if (fitting_) return;
+  // Before it is shown, the bar is filled entry by entry at no width that means anything.
+  if (fitting_ || !isVisible()) return;
   const QScopedValueRollback<bool> guard(fitting_, true);
   const int before = style_->closer;
   const QFont usual = QApplication::font(this);

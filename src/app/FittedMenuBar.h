@@ -14,6 +14,7 @@ class FittedMenuBar : public QMenuBar {
   ~FittedMenuBar() override;
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void actionEvent(QActionEvent* event) override;
   void changeEvent(QEvent* event) override;

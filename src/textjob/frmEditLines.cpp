@@ -2,7 +2,6 @@
 #include <QAction>
 #include <QListWidget>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 #include "context/AppContext.h"
@@ -33,8 +32,8 @@ void frmEdit::ConnectLines() {
     connect(button, &QAbstractButton::clicked, this, [this, what = what] { Do(what); });
   }
   connect(ui_->cmdReorder, &QPushButton::clicked, this, &frmEdit::cmdReorder_Click);
-  ui_->cmdUndo->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-  ui_->cmdRedo->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+  ui_->cmdUndo->setArrowType(Qt::LeftArrow);
+  ui_->cmdRedo->setArrowType(Qt::RightArrow);
   // Kept in its place while it is hidden, so that nothing jumps from line to line.
   QSizePolicy keepsPlace = ui_->cmdOpenFile->sizePolicy();
   keepsPlace.setRetainSizeWhenHidden(true);
