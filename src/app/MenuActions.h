@@ -40,6 +40,7 @@ class MenuActions {
   void mnuGraphicDownload_Click();
   void mnuGraphicUpload_Click();
   void mnuGraphicUploadLastJob_Click();
+  void mnuSetupDownloadDateTime_Click();
   void mnuGraphicView_Click();
   void mnuGraphicOpenLastJob_Click();
   void mnuFontView_Click();

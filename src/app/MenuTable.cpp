@@ -146,7 +146,7 @@ constexpr MenuEntry kEntries[] = {
     {"mnuSetup", "mnuSetupPeriodicEvents", "&Periodic Events", "", "Edit what the machine does at set times"},
     {"mnuSetup", "mnuSetupShifts", "S&hifts", "", "Edit the shifts"},
     {"mnuSetup", "mnuSetupDownloadSoftware", "Download Soft&ware", "", "Send new software to the controller", nullptr, kAny, kPlain, kLine},
-    {"mnuSetup", "mnuSetupDownloadDateTime", "Download Dat&e/Time", "", "Set the controller's clock"},
+    {"mnuSetup", "mnuSetupDownloadDateTime", "Download Dat&e/Time", "", "Set the controller's clock", &A::mnuSetupDownloadDateTime_Click},
     {"mnuSetup", "mnuSetupRebootMachine", "&Reboot Machine", "", "Restart the controller", nullptr, kAny, kDeveloper},
     {"mnuSetup", "mnuSetupAutoTest", "&Auto Test", "", "Run the controller's own test", nullptr, kAny, kDeveloper},
 

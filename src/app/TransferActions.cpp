@@ -3,8 +3,10 @@
 #include "app/MenuActions.h"
 #include "app/frmMain.h"
 #include "context/AppContext.h"
+#include "link/MachineClock.h"
 #include "link/Verify.h"
 #include "link/Wrappers.h"
+#include "platform/Clock.h"
 #include "platform/Prompts.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
@@ -71,6 +73,10 @@ void MenuActions::mnuGraphicUploadLastJob_Click() {
   Run([this](const link::WrapperSources& sources) {
     if (link::UploadTextJob(sources)) windows_.OpenGraphicViewer("TEXTJOB.JOB");
   });
+}
+
+void MenuActions::mnuSetupDownloadDateTime_Click() {
+  Run([this](const link::WrapperSources& sources) { link::DownloadDateTime(sources, context_.clock); });
 }
 
 }  // namespace morvane::app
