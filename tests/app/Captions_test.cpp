@@ -6,6 +6,8 @@
 #include "fonts/frmFontView.h"
 #include "support/qt_WindowStation.h"
 #include "textjob/frmEdit.h"
+#include "textjob/frmReorder.h"
+#include "widgets/frmOffset.h"
 
 namespace morvane::test {
 namespace {
@@ -23,6 +25,48 @@ TEST(Captions, StandOnTheirControls) {
   station.prompts.files.push_back({});
   station.Entry("mnuGraphicView").trigger();
   EXPECT_EQ(station.prompts.requests.at(0).filter, "Job Files|*.JOB|All Files|*.*");
+}
+
+TEST(Captions, OfTheEditorAndItsDialogs) {
+  WindowStation station;
+  station.Load();
+  const textjob::frmReorder reorder(station.context, {}, nullptr);
+  const widgets::frmOffset offset({}, station.context.settings, nullptr);
+  const QObject& editor = station.Active<textjob::frmEdit>();
+  const struct {
+    const QObject& window;
+    const char *control, *property, *words;
+  } cases[] = {
+      {editor, "labFile", "text", "&Job"},
+      {editor, "cmbFile", "toolTip", "The jobs of the working folder"},
+      {editor, "cmdSave", "text", "&Save"},
+      {editor, "labComments", "text", "Co&mments"},
+      {editor, "cmbLine", "toolTip", "The lines of the job; the selected ones are drawn in their own colour"},
+      {editor, "cmdNewLine", "text", "New Line"},
+      {editor, "cmdDeleteLine", "text", "Delete Line"},
+      {editor, "cmdReorder", "text", "Reorder"},
+      {editor, "cmdOpenFile", "text", "&Open File"},
+      {editor, "cmdDownload", "text", "Download"},
+      {editor, "cmdDownloadRun", "text", "D/L and Run"},
+      {editor, "cmdUpload", "text", "Upload"},
+      {editor, "cmdUndo", "toolTip", "Undo (Ctrl+Z)"},
+      {editor, "cmdRedo", "toolTip", "Redo (Ctrl+Y)"},
+      {editor, "actUndo", "text", "Undo"},
+      {editor, "actRedo", "text", "Redo"},
+      {editor, "actCut", "text", "Cut Lines"},
+      {editor, "actCopy", "text", "Copy Lines"},
+      {editor, "actPaste", "text", "Paste Lines"},
+      {editor, "actDuplicate", "text", "Duplicate Lines"},
+      {reorder, "cmdUp", "text", "&Up"},
+      {reorder, "cmdUp", "toolTip", "Swap the line with the one above it (Ctrl+Up)"},
+      {reorder, "cmdDown", "text", "&Down"},
+      {reorder, "cmdDown", "toolTip", "Swap the line with the one below it (Ctrl+Down)"},
+      {reorder, "cmdExit", "text", "E&xit"},
+      {offset, "cmdOk", "text", "&OK"},
+      {offset, "cmdCancel", "text", "&Cancel"}};
+  for (const auto& [window, control, property, words] : cases) {
+    EXPECT_EQ(Find<QObject>(window, control).property(property).toString(), words) << control;
+  }
 }
 
 TEST(Captions, AboutTellsTheBuild) {

@@ -141,7 +141,8 @@ TEST(frmMain, StatusPanels) {
   station.clock.seconds += 2;
   station.context.progress.Set(5000, 0);
   EXPECT_EQ(bar.maximum(), 0) << "the end is not known";
-  EXPECT_EQ(transfer.text(), QLocale().toString(5000) + " bytes, " + QLocale().toString(2.5) + " KB/s");
+  const QLocale locale;
+  EXPECT_EQ(transfer.text(), QString("%1 bytes, %2 KB/s").arg(locale.toString(5000), locale.toString(2.5)));
   station.context.progress.Clear();
   EXPECT_FALSE(bar.isVisible() || transfer.isVisible());
 }
