@@ -30,13 +30,15 @@ std::optional<RecoveredJob> RecoveryCopy::Offer() {
   } catch (const common::RunTimeError&) {
     return std::nullopt;
   }
-  exists_ = true;
-  if (EqualsItsFile(copy)) return Remove(), std::nullopt;
+  exists_ = EqualsItsFile(copy);
+  if (exists_) return Remove(), std::nullopt;
   const std::string shown = common::PathFileName(copy.name);
   if (!LiesInside(copy.name)) copy.name = kNewJob;
   const platform::Answer answer =
       prompts_.MsgBox("The program ended with unsaved changes of " + shown + ". Do you want to restore them?",
                       platform::Buttons::YesNo);
+  // Not earlier: a window that is drawn while the question stands has a job without changes.
+  exists_ = true;
   if (answer != platform::Answer::Yes) return Remove(), std::nullopt;
   return copy;
 }

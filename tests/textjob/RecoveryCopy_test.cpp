@@ -92,6 +92,26 @@ TEST_F(RecoveryCopyTest, IsOfferedAtTheNextStart) {
   EXPECT_FALSE(recovery_.Offer()) << "nothing was left";
 }
 
+// The program may die before it has an answer.
+TEST_F(RecoveryCopyTest, StaysWhileTheQuestionStands) {
+  struct : FakePrompts {
+    Answer MsgBox(const std::string&, platform::Buttons, const std::string&) override {
+      offered->Touch({}, "<NEW>");
+      kept = disk->Has(kCopy);
+      return Answer::No;
+    }
+    FakeFileSystem* disk = nullptr;
+    RecoveryCopy* offered = nullptr;
+    bool kept = false;
+  } question;
+  RecoveryCopy offered(files, clock, question);
+  question.disk = &disk;
+  question.offered = &offered;
+  Leave("A.TJB");
+  EXPECT_FALSE(offered.Offer());
+  EXPECT_TRUE(question.kept && !disk.Has(kCopy));
+}
+
 TEST_F(RecoveryCopyTest, GoesWithTheChanges) {
   document_.Open("A.TJB");
   for (const char* how : {"kept", "saved", "dropped", "replaced"}) {
