@@ -1,5 +1,6 @@
 // The property grid of the editor: rows, their editors, and edits.
 #include <QScopedValueRollback>
+#include <QToolButton>
 
 #include "common/Settings.h"
 #include "context/AppContext.h"
@@ -10,6 +11,7 @@
 #include "textjob/ViewOptions.h"
 #include "textjob/frmEdit.h"
 #include "ui_frmEdit.h"
+#include "widgets/NotAvailable.h"
 
 namespace morvane::textjob {
 namespace {
@@ -44,6 +46,7 @@ void frmEdit::ConnectGrid() {
     if (editor_.StepRow(static_cast<std::size_t>(row), steps)) DrawJob();
   });
   connect(&grid, &widgets::CellGrid::ButtonPressed, this, &frmEdit::cmdOpenFile_Click);
+  widgets::MarkNotAvailable(grid.Editors().FileButton());
 }
 
 widgets::CellEditor frmEdit::ChooseEditor(int row) const {

@@ -84,10 +84,9 @@ void frmEdit::SelectLine(int index) {
 
 void frmEdit::cmdReorder_Click() {
   const platform::Operations::Scope scope(context_.operations, this);
-  frmReorder(
-      context_, [this] { editor_.Reordered(); }, this)
-      .exec();
-  DrawJob();
+  frmReorder reorder(
+      context_, [this] { editor_.Reordered(); }, this);
+  reorder.exec();
 }
 
 void frmEdit::OffsetJob() {
