@@ -1,9 +1,11 @@
 #include "textjob/JobEditor.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "common/Numbers.h"
 #include "common/RunTimeError.h"
+#include "common/Text.h"
 #include "textjob/BackgroundOffset.h"
 #include "textjob/CommitLine.h"
 #include "textjob/JobFile.h"
@@ -23,14 +25,12 @@ bool IsAngle(std::string_view label) {
   return label == "Angle" || label == "Rotate";
 }
 
-// A pasted text may have several lines, which a file would take for lines of the job.
-std::string OneLine(std::string text) {
-  for (const std::string_view end : {"\r\n", "\r", "\n"}) {
-    for (std::size_t at = text.find(end); at != std::string::npos; at = text.find(end, at)) {
-      text.replace(at, end.size(), " ");
-    }
-  }
-  return text;
+// A pasted text may have several lines, which a file would take for lines of the job. Its words stay apart.
+std::string JoinLines(std::string_view text) {
+  std::string line = common::ReplaceAll(text, "\r\n", " ");
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return line;
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void JobEditor::ReadRows(RowContext context) {
 bool JobEditor::CommitRow(std::size_t row, const std::string& value) {
   if (row >= rows_.size()) return false;
   const std::string visit = Visit(rows_[row].label);
-  CommitLine(parts_.job, rows_, row, OneLine(value), context_, parts_.files);
+  CommitLine(parts_.job, rows_, row, JoinLines(value), context_, parts_.files);
   return Changed(visit);
 }
 
@@ -93,7 +93,7 @@ bool JobEditor::StepRow(std::size_t row, int steps) {
 }
 
 bool JobEditor::SetComment(const std::string& comment) {
-  parts_.job.Comment = OneLine(comment);
+  parts_.job.Comment = JoinLines(comment);
   parts_.job.Dirty = true;
   return Changed(Visit("comment"));
 }

@@ -39,15 +39,16 @@ bool Needed(RowNeed need, const TextJobLine& line, const RowContext& context) {
   }
 }
 
-// Any number of the record; counts and words among them are small enough to be exact.
-float NumberOf(const TextJobLine& line, const TjbMember& member) {
-  return common::ParseSingle(MemberText(line, member));
-}
+// A number of any type of field; a text is none.
+struct ToNumber {
+  const TextJobLine& line;
 
-float Number(const TextJobLine& line, const TjbMember& member) {
-  const auto* single = std::get_if<float TextJobLine::*>(&member);
-  return single != nullptr ? line.**single : NumberOf(line, member);
-}
+  float operator()(std::string TextJobLine::*) const { return 0; }
+  template <typename T>
+  float operator()(T TextJobLine::*field) const {
+    return static_cast<float>(line.*field);
+  }
+};
 
 // Dots of the image on one unit of length.
 std::string Dots(const TextJobLine& line, const PropertyRule& rule, const RowContext& context) {
@@ -73,7 +74,7 @@ std::string ValueOf(const TextJobLine& line, const PropertyRule& rule, const Row
     case RowFormat::Text:
       return MemberText(line, rule.member);
     default:
-      return RowNumber(Number(line, rule.member), rule, context);
+      return RowNumber(std::visit(ToNumber{line}, rule.member), rule, context);
   }
 }
 

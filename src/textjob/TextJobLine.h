@@ -36,6 +36,11 @@ class TypeSet {
   constexpr TypeSet(std::initializer_list<LineType> types) {
     for (const LineType type : types) bits_ |= 1U << type;
   }
+  static constexpr TypeSet AllBut(std::initializer_list<LineType> types) {
+    TypeSet set(types);
+    set.bits_ = ~set.bits_;
+    return set;
+  }
   constexpr bool Holds(std::int32_t type) const {
     return type >= 0 && type < kLineTypeCount && ((bits_ >> type) & 1U) != 0;
   }

@@ -89,7 +89,7 @@ void frmEdit::ShowRows() {
   if (job.Selection != shownSelection_) ui_->PropertyGrid->StartOver();
   shownSelection_ = job.Selection;
   ui_->PropertyGrid->SetRows(cells);
-  ui_->cmdOpenFile->setVisible(HasFileEditor(context_.job));
+  ui_->cmdOpenFile->setVisible(HasFileEditor(job));
   KeepChanges();
 }
 

@@ -1,22 +1,9 @@
-#include <gtest/gtest.h>
-
-#include "tools/ToolFolder.h"
+#include "cli/CommandLine.h"
 
 namespace morvane {
 namespace {
 
-// A base directory, and the command line run on it from there.
-class Cli : public testing::Test {
- protected:
-  int Run(const std::string& arguments) {
-    const int status = folder.Run("morvane-cli --base . --now '2026-03-09 14:05:07' " + arguments + " > out");
-    out = folder.Read("out");
-    return status;
-  }
-
-  test::ToolFolder folder;
-  std::string out;
-};
+using Cli = test::CommandLine;
 
 const std::string kJob =
     "COMMENT,a \"b\" \xE9\r\n0,1.5,.1,0.125,font1,0,0,0,0,T,\x80@@,1,1,1,0.0625M0.5\r\n4,1,1\r\n";

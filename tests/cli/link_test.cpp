@@ -1,10 +1,8 @@
 // The command line's link and job transfers against the simulated controller.
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
+#include "cli/CommandLine.h"
 #include "support/Simulator.h"
-#include "tools/ToolFolder.h"
 
 namespace morvane {
 namespace {
@@ -12,20 +10,12 @@ namespace {
 const std::string kAddress = test::OwnAddress();
 
 // A base directory that is connected to a machine.
-class CliLink : public testing::Test {
+class CliLink : public test::CommandLine {
  protected:
   void Connect(bool network, const test::Simulator& simulator) {
     folder.Write("Morvane.ini", std::string("[Settings]\r\nComPort=") + (network ? "5" : "2") + "\r\nIP=" +
                                     kAddress + "\r\n[SerialDevices]\r\nCOM2=" + simulator.Line() + "\r\n");
   }
-  int Run(const std::string& arguments) {
-    const int status = folder.Run("morvane-cli --base . --now '2026-03-09 14:05:07' " + arguments + " > out");
-    out = folder.Read("out");
-    return status;
-  }
-
-  test::ToolFolder folder;
-  std::string out;
 };
 
 TEST_F(CliLink, EveryCommandOverBothTransports) {
