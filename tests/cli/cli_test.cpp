@@ -53,6 +53,13 @@ TEST_F(Cli, JobShowPrintsEveryField) {
       "\"Location\":0,\"LateStart\":0,\"LateEnd\":0,\"EarlyShut\":0,\"Overlap\":0,\"OverlapHt\":0,"
       "\"Width\":0,\"KeepRatio\":1,\"Margin\":0,\"Backlash\":0,\"Spacing\":0}\n" +
           out.substr(out.find("{\"index\":1")));
+  ASSERT_EQ(Run("job rewrite A.TJB B.TJB"), 0) << folder.errors;
+  const std::string zeros = "0,0,0,0,0,0,1,0,0,0,0\r\n";
+  EXPECT_EQ(
+      folder.Read("B.TJB"),
+      "COMMENT,a \"b\" \xE9\r\n0,1.5,0.1,0.125,FONT1.fnt,0,0,0,0,T,\x80@@,1,1,1,0.063M0.500,0,@@,1,1,0," +
+          zeros + "4,1,1,0,.fnt,0,0,0,0,@@,1,1,1,0.000,0,@@,1,1,0," + zeros);
+  EXPECT_EQ(Run("job rewrite NONE.TJB B.TJB"), 1);
   EXPECT_EQ(Run("job show NONE.TJB"), 1);
   EXPECT_EQ(folder.errors, "Morvane: Load(NONE.TJB) File not found\n");
 }
