@@ -27,8 +27,8 @@ std::string FileDialogs::SaveFileDialog(const std::string& filter, const std::st
 }
 
 ChosenFiles FileDialogs::MultiOpenDialog(const std::string& filter, const std::string& defaultExtension,
-                                         const std::string& startFolder) {
-  const auto request = Request("Download File(s)", filter, defaultExtension, "", startFolder);
+                                         const std::string& startFolder, const std::string& title) {
+  const auto request = Request(title, filter, defaultExtension, "", startFolder);
   const std::vector<std::string> paths = prompts_.OpenFiles(request);
   if (paths.empty()) return {};
   std::vector<std::string> names;

@@ -31,7 +31,8 @@ class FileDialogs {
   std::string SaveFileDialog(const std::string& filter, const std::string& defaultExtension,
                              const std::string& fileName = "", const std::string& startFolder = "");
   ChosenFiles MultiOpenDialog(const std::string& filter, const std::string& defaultExtension,
-                              const std::string& startFolder = "");
+                              const std::string& startFolder = "",
+                              const std::string& title = "Download File(s)");
 
  private:
   platform::FileDialogRequest Request(const std::string& title, const std::string& filter,

@@ -70,7 +70,7 @@ bool VerifyFile(const WrapperSources& sources, const std::string& localPath, con
 }
 
 bool VerifyFiles(const WrapperSources& sources, const std::string& filter, const std::string& extension) {
-  const common::ChosenFiles chosen = sources.dialogs.MultiOpenDialog(filter, extension);
+  const common::ChosenFiles chosen = sources.dialogs.MultiOpenDialog(filter, extension, "", "Verify File(s)");
   for (const std::string& file : chosen.names) {
     if (!VerifyFile(sources, PathOf(chosen, file), file)) return false;
   }

@@ -151,6 +151,7 @@ TEST(Verify, TellsTheFirstDifference) {
     station.prompts.files = {{"/base/A.TJB"}};
     const bool same = VerifyFiles(station.sources, "TJB Files|*.TJB", "tjb");
     EXPECT_EQ(same, box == "A.TJB verified");
+    EXPECT_EQ(station.prompts.requests.at(0).title, "Verify File(s)");
     EXPECT_EQ(station.Boxes(), (box[0] == 'U' ? "" : "Morvane: ") + box);
     EXPECT_EQ(station.waitWindow.texts.front(), "Verifying A.TJB" + kWait);
   }
