@@ -8,13 +8,13 @@
 #include <string>
 
 #include "cli/CliPrompts.h"
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixLocale.h"
 #include "platform/posix/PosixProcesses.h"
-#include "textjob/Preview.h"
-#include "textjob/modTjb.h"
+#include "textjob/job/modTjb.h"
+#include "textjob/preview/Preview.h"
 
 namespace morvane::bench {
 

@@ -18,8 +18,8 @@
 #include "bench/BenchStation.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/qt/QtCanvas.h"
-#include "widgets/CanvasView.h"
-#include "widgets/CellGrid.h"
+#include "widgets/canvas/CanvasView.h"
+#include "widgets/grid/CellGrid.h"
 
 namespace morvane::bench {
 namespace {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "gcode/DrawFile.h"
 #include "gcode/MeasureDistances.h"
 #include "platform/RecordingCanvas.h"

@@ -1,7 +1,7 @@
 // One noted key press in a job of 1001 lines, at its start, its middle and its end, and an undone offset.
 #include <benchmark/benchmark.h>
 
-#include "textjob/JobHistory.h"
+#include "textjob/job/JobHistory.h"
 
 namespace morvane::bench {
 namespace {

@@ -5,16 +5,16 @@
 #include <QMdiArea>
 
 #include "app/RecentFiles.h"
-#include "app/frmMain.h"
-#include "common/Files.h"
+#include "app/frame/frmMain.h"
+#include "common/files/Files.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
-#include "fonts/frmFontView.h"
-#include "gcode/frmGraphic.h"
+#include "fonts/ui/frmFontView.h"
+#include "gcode/ui/frmGraphic.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtText.h"
-#include "textjob/RecoveryCopy.h"
-#include "textjob/frmEdit.h"
+#include "textjob/job/RecoveryCopy.h"
+#include "textjob/ui/frmEdit.h"
 
 namespace morvane::app {
 namespace {

@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <string>
 
-#include "app/MdiChild.h"
+#include "app/frame/MdiChild.h"
 #include "widgets/Windows.h"
 
 class QDialog;

@@ -7,11 +7,11 @@
 #include <QTimer>
 
 #include "app/StartSettings.h"
-#include "app/frmMain.h"
+#include "app/frame/frmMain.h"
 #include "app/frmSplash.h"
 #include "common/ImportSettings.h"
 #include "common/RunTimeError.h"
-#include "gcode/frmPreview.h"
+#include "gcode/ui/frmPreview.h"
 #include "platform/posix/PosixPaths.h"
 #include "platform/qt/QtSystem.h"
 #include "platform/qt/QtText.h"

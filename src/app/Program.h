@@ -6,10 +6,10 @@
 
 #include "app/AppWindows.h"
 #include "app/CommandLine.h"
-#include "common/FileDialogs.h"
-#include "common/Files.h"
 #include "common/RunAndWait.h"
 #include "common/Settings.h"
+#include "common/files/FileDialogs.h"
+#include "common/files/Files.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "fonts/GlyphCache.h"
@@ -25,12 +25,12 @@
 #include "platform/qt/QtLocale.h"
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtTcpClient.h"
-#include "textjob/PreviewState.h"
-#include "textjob/RecoveryCopy.h"
-#include "textjob/TextJob.h"
-#include "textjob/ViewOptions.h"
-#include "widgets/QtPrompts.h"
-#include "widgets/QtWaitWindow.h"
+#include "textjob/job/RecoveryCopy.h"
+#include "textjob/job/TextJob.h"
+#include "textjob/preview/PreviewState.h"
+#include "textjob/preview/ViewOptions.h"
+#include "widgets/prompts/QtPrompts.h"
+#include "widgets/prompts/QtWaitWindow.h"
 
 namespace morvane::app {
 

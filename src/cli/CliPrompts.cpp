@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::cli {
 

@@ -8,16 +8,16 @@
 
 #include "cli/GlobalArguments.h"
 #include "cli/Trace.h"
-#include "common/FileNames.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
 #include "common/SettingDefaults.h"
 #include "common/SvgCanvas.h"
-#include "common/Text.h"
-#include "common/Tokenizer.h"
+#include "common/files/FileNames.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
+#include "common/text/Tokenizer.h"
 #include "platform/qt/PictureStore.h"
 #include "platform/qt/QtCanvas.h"
-#include "textjob/ViewSettings.h"
+#include "textjob/preview/ViewSettings.h"
 
 namespace morvane::cli {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "cli/Commands.h"
 #include "platform/RecordingCanvas.h"
-#include "textjob/ViewOptions.h"
+#include "textjob/preview/ViewOptions.h"
 
 namespace morvane::cli {
 

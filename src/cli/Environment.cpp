@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::cli {
 namespace {

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "cli/CliPrompts.h"
-#include "common/Files.h"
 #include "common/RunAndWait.h"
 #include "common/Settings.h"
+#include "common/files/Files.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixProcesses.h"

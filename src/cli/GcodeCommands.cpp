@@ -5,7 +5,7 @@
 #include "cli/DrawOptions.h"
 #include "cli/GlobalArguments.h"
 #include "cli/Json.h"
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "gcode/DrawFile.h"
 #include "gcode/MeasureDistances.h"
 

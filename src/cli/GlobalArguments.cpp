@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/Numbers.h"
-#include "common/Text.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
 
 namespace morvane::cli {
 namespace {

@@ -5,10 +5,10 @@
 #include "cli/DrawOptions.h"
 #include "cli/GlobalArguments.h"
 #include "cli/Json.h"
-#include "textjob/JobFile.h"
-#include "textjob/Preview.h"
-#include "textjob/TjbFields.h"
-#include "textjob/modTjb.h"
+#include "textjob/job/JobFile.h"
+#include "textjob/job/TjbFields.h"
+#include "textjob/job/modTjb.h"
+#include "textjob/preview/Preview.h"
 
 namespace morvane::cli {
 namespace {

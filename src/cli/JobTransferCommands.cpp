@@ -2,9 +2,9 @@
 #include "cli/Commands.h"
 #include "cli/GlobalArguments.h"
 #include "cli/LinkSession.h"
-#include "common/Text.h"
-#include "textjob/JobTransfer.h"
-#include "textjob/ViewSettings.h"
+#include "common/text/Text.h"
+#include "textjob/preview/ViewSettings.h"
+#include "textjob/transfer/JobTransfer.h"
 
 namespace morvane::cli {
 namespace {

@@ -4,9 +4,9 @@
 #include "cli/Commands.h"
 #include "cli/GlobalArguments.h"
 #include "cli/LinkSession.h"
-#include "common/FileNames.h"
-#include "common/Numbers.h"
-#include "common/Text.h"
+#include "common/files/FileNames.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
 #include "link/ControllerNames.h"
 #include "link/MachineClock.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "cli/Environment.h"
-#include "common/FileDialogs.h"
+#include "common/files/FileDialogs.h"
 #include "link/Wrappers.h"
 #include "platform/qt/Operations.h"
 #include "platform/qt/QtClock.h"

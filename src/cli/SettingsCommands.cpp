@@ -4,7 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/GlobalArguments.h"
 #include "cli/Json.h"
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::cli {
 namespace {

@@ -4,10 +4,10 @@
 #include "cli/Commands.h"
 #include "cli/GlobalArguments.h"
 #include "cli/Json.h"
-#include "common/Numbers.h"
-#include "common/Text.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
 #include "fonts/modFont.h"
-#include "textjob/modDateCode.h"
+#include "textjob/job/modDateCode.h"
 
 namespace morvane::cli {
 

@@ -5,7 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/GlobalArguments.h"
 #include "common/RunTimeError.h"
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "common/ImportSettings.h"
 
 #include "common/IniText.h"
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::common {
 namespace {

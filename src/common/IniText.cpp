@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/Lines.h"
-#include "common/Text.h"
+#include "common/text/Lines.h"
+#include "common/text/Text.h"
 
 namespace morvane::common {
 namespace {

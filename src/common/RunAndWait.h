@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 #include "platform/Clock.h"
 #include "platform/Processes.h"
 

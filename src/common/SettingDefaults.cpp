@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 
 namespace morvane::common {
 

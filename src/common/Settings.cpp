@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "common/IniText.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
-#include "common/Tokenizer.h"
+#include "common/text/Numbers.h"
+#include "common/text/Tokenizer.h"
 
 namespace morvane::common {
 namespace {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 
 namespace morvane::common {
 

@@ -1,8 +1,8 @@
 #include "common/SvgCanvas.h"
 
-#include "common/Base64.h"
-#include "common/Numbers.h"
-#include "common/Text.h"
+#include "common/text/Base64.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
 
 namespace morvane::common {
 namespace {

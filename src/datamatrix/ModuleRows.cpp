@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/Lines.h"
+#include "common/text/Lines.h"
 
 namespace morvane::datamatrix {
 namespace {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "common/RunTimeError.h"
-#include "common/ScratchName.h"
+#include "common/files/ScratchName.h"
 #include "datamatrix/modDataMatrix.h"
 
 namespace morvane::datamatrix {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/Numbers.h"
-#include "common/OneLine.h"
+#include "common/text/Numbers.h"
+#include "common/text/OneLine.h"
 
 namespace morvane::datamatrix {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "common/FileNames.h"
-#include "common/Lines.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
-#include "common/Tokenizer.h"
+#include "common/files/FileNames.h"
+#include "common/text/Lines.h"
+#include "common/text/Numbers.h"
+#include "common/text/Tokenizer.h"
 
 namespace morvane::fonts {
 namespace {

@@ -1,7 +1,7 @@
 #include "gcode/MoveLine.h"
 
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
+#include "common/text/Numbers.h"
 
 namespace morvane::gcode {
 

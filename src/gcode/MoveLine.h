@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/Lines.h"
+#include "common/text/Lines.h"
 #include "gcode/Statement.h"
 
 namespace morvane::gcode {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
+#include "common/text/Numbers.h"
 
 namespace morvane::gcode {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 
 namespace morvane::gcode {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/RunTimeError.h"
-#include "link/LineEnds.h"
+#include "link/wire/LineEnds.h"
 
 namespace morvane::link {
 namespace {

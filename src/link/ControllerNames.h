@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 #include "platform/Prompts.h"
 
 namespace morvane::link {

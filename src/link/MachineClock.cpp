@@ -1,6 +1,6 @@
 #include "link/MachineClock.h"
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "link/ControllerNames.h"
 
 namespace morvane::link {

@@ -1,10 +1,10 @@
 #include "link/Verify.h"
 
-#include "common/FileNames.h"
-#include "common/Lines.h"
 #include "common/RunTimeError.h"
+#include "common/files/FileNames.h"
+#include "common/text/Lines.h"
 #include "link/ControllerNames.h"
-#include "link/TcpBlocks.h"
+#include "link/wire/TcpBlocks.h"
 
 namespace morvane::link {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/FileNames.h"
 #include "common/RunTimeError.h"
+#include "common/files/FileNames.h"
 #include "link/ControllerNames.h"
 
 namespace morvane::link {

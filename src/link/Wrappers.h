@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "common/FileDialogs.h"
+#include "common/files/FileDialogs.h"
 #include "link/modComm.h"
 
 namespace morvane::link {

@@ -1,10 +1,9 @@
 #include "link/modComm.h"
 
 #include "common/RunTimeError.h"
-#include "common/Text.h"
-#include "link/LineEnds.h"
-#include "link/SerialTransfer.h"
-#include "link/TcpTransfer.h"
+#include "link/wire/LineEnds.h"
+#include "link/wire/SerialTransfer.h"
+#include "link/wire/TcpTransfer.h"
 
 namespace morvane::link {
 namespace {
@@ -13,10 +12,6 @@ namespace {
 constexpr const char* kRunReply = "C:\\run.ret";
 
 }  // namespace
-
-std::string EndMarker(const std::string& localPath) {
-  return common::ToUpper(localPath).find(".JOB") != std::string::npos ? "ENDJOB" : "ENDFILE";
-}
 
 // One operation from its claim on the link to its end. A run-time error closes the link and is told behind
 // the operation's name.

@@ -4,13 +4,10 @@
 
 #include <string>
 
-#include "link/Link.h"
 #include "link/LinkOwner.h"
+#include "link/wire/Link.h"
 
 namespace morvane::link {
-
-// Ends every file of a download and every reply; G-code jobs end otherwise.
-std::string EndMarker(const std::string& localPath);
 
 class Comm {
  public:

@@ -2,10 +2,10 @@
 
 #include <variant>
 
-#include "common/Lines.h"
-#include "common/Numbers.h"
-#include "common/OneLine.h"
-#include "common/Tokenizer.h"
+#include "common/text/Lines.h"
+#include "common/text/Numbers.h"
+#include "common/text/OneLine.h"
+#include "common/text/Tokenizer.h"
 
 namespace morvane::recipes {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 #include "recipes/Fixture.h"
 
 namespace morvane::recipes {

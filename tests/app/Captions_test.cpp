@@ -3,10 +3,10 @@
 #include <QPushButton>
 
 #include "app/frmAbout.h"
-#include "fonts/frmFontView.h"
+#include "fonts/ui/frmFontView.h"
 #include "support/qt_WindowStation.h"
-#include "textjob/frmEdit.h"
-#include "textjob/frmReorder.h"
+#include "textjob/ui/frmEdit.h"
+#include "textjob/ui/frmReorder.h"
 #include "widgets/frmOffset.h"
 
 namespace morvane::test {

@@ -9,17 +9,17 @@
 #include <set>
 
 #include "app/frmAbout.h"
-#include "app/frmAddMachine.h"
-#include "app/frmOptions.h"
-#include "fonts/frmFontView.h"
-#include "gcode/frmGraphic.h"
+#include "app/options/frmAddMachine.h"
+#include "app/options/frmOptions.h"
+#include "fonts/ui/frmFontView.h"
+#include "gcode/ui/frmGraphic.h"
 #include "support/qt_WindowStation.h"
-#include "textjob/frmEdit.h"
-#include "textjob/frmLockImage.h"
-#include "textjob/frmReorder.h"
+#include "textjob/ui/frmEdit.h"
+#include "textjob/ui/frmLockImage.h"
+#include "textjob/ui/frmReorder.h"
 #include "widgets/frmOffset.h"
-#include "widgets/frmSelect.h"
-#include "widgets/frmUploadFiles.h"
+#include "widgets/prompts/frmSelect.h"
+#include "widgets/prompts/frmUploadFiles.h"
 
 namespace morvane::test {
 namespace {

@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "platform/RecordingCanvas.h"
 
 namespace morvane::gcode {

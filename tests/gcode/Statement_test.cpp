@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-#include "common/Lines.h"
-#include "common/Numbers.h"
+#include "common/text/Lines.h"
+#include "common/text/Numbers.h"
 #include "gcode/GcodeProgram.h"
 
 namespace morvane::gcode {

@@ -24,9 +24,29 @@ constexpr struct Layer {
     {"src/cli/", "cli", "platform common core qt posix"},
     {"tools/", "tool", "platform common posix"},
     {"src/", "core", "platform common"},
-    // Files of the same folders that are named as windows.
+    // The ui folders of the subsystems.
     {"src/", "window", "platform common core qt context widgets"},
 };
+
+// The folders of the core, each below those that it may use.
+constexpr struct CoreFolder {
+  std::string_view folder, uses;
+} kCoreFolders[] = {
+    {"src/recipes/", ""},
+    {"src/fonts/", ""},
+    {"src/datamatrix/", ""},
+    {"src/gcode/panel/", ""},
+    {"src/gcode/", ""},
+    {"src/link/wire/", ""},
+    {"src/link/", "src/link/wire/"},
+    {"src/textjob/job/", "src/recipes/"},
+    {"src/textjob/preview/",
+     "src/textjob/job/ src/recipes/ src/fonts/ src/datamatrix/ src/gcode/ src/gcode/panel/"},
+    {"src/textjob/edit/", "src/textjob/job/ src/textjob/preview/ src/recipes/"},
+    {"src/textjob/transfer/", "src/textjob/job/ src/link/"},
+};
+
+constexpr std::size_t kMostFiles = 30;  // in a folder
 
 std::string FolderOf(const std::string& path) {
   return path.substr(0, path.rfind('/') + 1);
@@ -35,10 +55,16 @@ std::string FolderOf(const std::string& path) {
 const Layer& LayerOf(const std::string& path) {
   const auto* layer = std::find_if(std::begin(kLayers), std::end(kLayers),
                                    [&](const Layer& each) { return path.starts_with(each.folder); });
-  const std::string name = path.substr(path.rfind('/') + 1);
-  const std::size_t prefix = name.starts_with("frm") ? 3 : name.starts_with("uc") ? 2 : name.size();
-  const bool window = std::isupper(static_cast<unsigned char>(name[prefix]));
+  const bool window = path.find("/ui/") != std::string::npos;
   return layer->name == "core" && window ? layer[1] : *layer;
+}
+
+// True when a folder of the core stands in the table, and so does its use of the other one.
+bool MayUse(const std::string& from, const std::string& to) {
+  const auto* folder = std::find_if(std::begin(kCoreFolders), std::end(kCoreFolders),
+                                    [&](const CoreFolder& each) { return each.folder == from; });
+  if (folder == std::end(kCoreFolders)) return false;
+  return from == to || (' ' + std::string(folder->uses) + ' ').find(' ' + to + ' ') != std::string::npos;
 }
 
 class Includes : public testing::Test {
@@ -90,7 +116,8 @@ TEST_F(Includes, PointDownOrSidewaysAndFormNoCircle) {
     for (const std::string& to : targets) {
       const std::string_view other = LayerOf(to).name;
       const bool near = FolderOf(from) == FolderOf(to);
-      const bool sideways = layer.name == other && (other != "tool" || near);
+      const bool sideways = layer.name == other && (other != "tool" || near) &&
+                            (other != "core" || MayUse(FolderOf(from), FolderOf(to)));
       // The header of a window includes no window of another subsystem.
       const bool form = layer.name == "window" && from.ends_with(".h") && other == "window" && !near;
       if (form || (!sideways && layer.below.find(other) == std::string::npos)) {
@@ -100,6 +127,16 @@ TEST_F(Includes, PointDownOrSidewaysAndFormNoCircle) {
     Strings way;
     Visit(from, way);
   }
+}
+
+// A reader finds his way in a folder that he sees at one glance.
+TEST(Folders, AreSmall) {
+  std::map<std::string, std::size_t> files;
+  for (const TreeFile& file : ReadTree()) {
+    if (file.Under("src/")) ++files[FolderOf(file.path)];
+  }
+  ASSERT_GT(files.size(), 20U);
+  for (const auto& [folder, count] : files) EXPECT_LE(count, kMostFiles) << folder;
 }
 
 // The core stands on the standard library alone: no toolkit, and the system's headers in platform/posix only.

@@ -9,7 +9,7 @@ namespace morvane::house {
 namespace {
 
 // A source that holds a table and may be as long as it is.
-constexpr std::string_view kTable = "src/app/MenuTable.cpp";
+constexpr std::string_view kTable = "src/app/menu/MenuTable.cpp";
 
 TEST(Lengths, OfSourcesAndFunctions) {
   std::vector<std::size_t> lengths;

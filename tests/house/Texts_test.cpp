@@ -8,7 +8,7 @@
 #include <set>
 #include <sstream>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "house/Tree.h"
 
 namespace morvane::house {

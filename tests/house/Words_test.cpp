@@ -2,7 +2,7 @@
 
 #include <cctype>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "house/Tree.h"
 
 namespace morvane::house {
@@ -58,7 +58,7 @@ TEST(Words, OfNumberFormattingStandInOnePlace) {
       "|"
       "printf | setf | setprecision | setw | setfill |istringstream |ostringstream| from_chars | to_chars ";
   const auto scope = [](const TreeFile& file) {
-    return file.IsCode() && file.Under("src/") && !file.Under("src/common/Number");
+    return file.IsCode() && file.Under("src/") && !file.Under("src/common/text/Number");
   };
   EXPECT_THAT(Matches(forbidden, scope), testing::IsEmpty());
 }

@@ -1,7 +1,7 @@
 // Replies: how they are taken from the link and stored.
 #include <gtest/gtest.h>
 
-#include "link/LineEnds.h"
+#include "link/wire/LineEnds.h"
 #include "support/LinkStation.h"
 
 namespace morvane::link {

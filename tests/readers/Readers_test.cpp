@@ -16,9 +16,9 @@
 #include "recipes/modFixture.h"
 #include "support/FakeFileSystem.h"
 #include "support/Mutator.h"
-#include "textjob/LockImages.h"
-#include "textjob/RecoveryFile.h"
-#include "textjob/modTjb.h"
+#include "textjob/job/LockImages.h"
+#include "textjob/job/RecoveryFile.h"
+#include "textjob/job/modTjb.h"
 
 namespace morvane {
 namespace {

@@ -15,8 +15,8 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "support/FakePrompts.h"
 #include "support/TempFolder.h"
-#include "textjob/RecoveryCopy.h"
-#include "textjob/modTjb.h"
+#include "textjob/job/RecoveryCopy.h"
+#include "textjob/job/modTjb.h"
 
 namespace morvane::test {
 namespace {

@@ -12,9 +12,9 @@
 
 #include "platform/posix/PosixClock.h"
 #include "support/qt_WindowStation.h"
-#include "textjob/frmEdit.h"
-#include "textjob/modTjb.h"
-#include "widgets/CellGrid.h"
+#include "textjob/job/modTjb.h"
+#include "textjob/ui/frmEdit.h"
+#include "widgets/grid/CellGrid.h"
 
 namespace morvane::test {
 namespace {

@@ -1,8 +1,8 @@
 // A base directory in memory, and what works on it: files, settings, a user and a clock by script.
 #pragma once
 
-#include "common/FileDialogs.h"
 #include "common/Settings.h"
+#include "common/files/FileDialogs.h"
 #include "support/FakeClock.h"
 #include "support/FakeFileSystem.h"
 #include "support/FakeLocale.h"

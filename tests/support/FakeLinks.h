@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "platform/SerialPort.h"
 #include "platform/TcpClient.h"
 #include "support/FakeClock.h"

@@ -9,7 +9,7 @@
 #include <random>
 
 #include "common/RunTimeError.h"
-#include "common/Tokenizer.h"
+#include "common/text/Tokenizer.h"
 
 namespace morvane::test {
 namespace {

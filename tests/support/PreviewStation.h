@@ -7,7 +7,7 @@
 #include "fonts/GlyphCache.h"
 #include "platform/RecordingCanvas.h"
 #include "support/SideProgramStation.h"
-#include "textjob/Preview.h"
+#include "textjob/preview/Preview.h"
 
 namespace morvane::test {
 

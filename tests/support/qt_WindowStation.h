@@ -11,10 +11,10 @@
 #include <string>
 
 #include "app/AppWindows.h"
-#include "app/frmMain.h"
-#include "common/FileDialogs.h"
+#include "app/frame/frmMain.h"
 #include "common/RunAndWait.h"
 #include "common/Settings.h"
+#include "common/files/FileDialogs.h"
 #include "context/AppContext.h"
 #include "context/StatusPanels.h"
 #include "fonts/GlyphCache.h"
@@ -31,10 +31,10 @@
 #include "support/FakePrompts.h"
 #include "support/FakeWaitWindow.h"
 #include "support/TempFolder.h"
-#include "textjob/PreviewState.h"
-#include "textjob/RecoveryCopy.h"
-#include "textjob/TextJob.h"
-#include "textjob/ViewOptions.h"
+#include "textjob/job/RecoveryCopy.h"
+#include "textjob/job/TextJob.h"
+#include "textjob/preview/PreviewState.h"
+#include "textjob/preview/ViewOptions.h"
 
 namespace morvane::test {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "common/FileNames.h"
-#include "common/Numbers.h"
-#include "common/Text.h"
+#include "common/files/FileNames.h"
+#include "common/text/Numbers.h"
+#include "common/text/Text.h"
 #include "controller/Replies.h"
 
 namespace morvane::controller {

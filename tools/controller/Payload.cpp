@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::controller {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "common/FileNames.h"
 #include "common/RunTimeError.h"
-#include "common/Text.h"
+#include "common/files/FileNames.h"
+#include "common/text/Text.h"
 
 namespace morvane::controller {
 namespace {

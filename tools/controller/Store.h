@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 
 namespace morvane::controller {
 

@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "common/CodePage.h"
-#include "common/Files.h"
 #include "common/RunTimeError.h"
-#include "common/Text.h"
+#include "common/files/Files.h"
+#include "common/text/CodePage.h"
+#include "common/text/Text.h"
 #include "pixbake/Bitmap.h"
 #include "pixbake/Ras.h"
 #include "platform/posix/PosixFileSystem.h"

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <memory>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::sqrgen {
 namespace {

@@ -5,8 +5,8 @@
 #include <iostream>
 #include <string>
 
-#include "common/Files.h"
 #include "common/RunTimeError.h"
+#include "common/files/Files.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "sqrgen/Symbol.h"
 

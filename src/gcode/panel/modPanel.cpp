@@ -1,8 +1,8 @@
 #include "gcode/panel/modPanel.h"
 
-#include "common/Lines.h"
-#include "common/Numbers.h"
 #include "common/RunTimeError.h"
+#include "common/text/Lines.h"
+#include "common/text/Numbers.h"
 
 namespace morvane::gcode::panel {
 namespace {

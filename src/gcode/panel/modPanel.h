@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 #include "gcode/panel/Panel.h"
 
 namespace morvane::gcode::panel {

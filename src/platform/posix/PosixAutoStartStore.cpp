@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/CheckedSave.h"
 #include "common/RunTimeError.h"
+#include "common/files/CheckedSave.h"
 
 namespace morvane::platform {
 namespace {

@@ -1,8 +1,8 @@
 #include "platform/posix/PosixPerUserStore.h"
 
-#include "common/CheckedSave.h"
 #include "common/IniText.h"
 #include "common/RunTimeError.h"
+#include "common/files/CheckedSave.h"
 
 namespace morvane::platform {
 

@@ -4,7 +4,7 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 
 namespace morvane::platform {
 namespace {

@@ -3,8 +3,8 @@
 #include <QImageReader>
 #include <algorithm>
 
-#include "common/Files.h"
 #include "common/RunTimeError.h"
+#include "common/files/Files.h"
 #include "platform/qt/QtText.h"
 
 namespace morvane::platform {

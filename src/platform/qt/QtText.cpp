@@ -1,6 +1,6 @@
 #include "platform/qt/QtText.h"
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 namespace morvane::platform {
 

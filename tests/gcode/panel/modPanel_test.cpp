@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "common/Numbers.h"
+#include "common/text/Numbers.h"
 #include "support/FakeFileSystem.h"
 
 namespace morvane::gcode::panel {

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-#include "common/Files.h"
+#include "common/files/Files.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/qt/PictureStore.h"
 #include "support/TempFolder.h"

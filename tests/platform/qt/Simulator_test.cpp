@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "link/modComm.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/qt/QtClock.h"
@@ -16,7 +16,7 @@
 #include "platform/qt/QtTcpClient.h"
 #include "support/FakePrompts.h"
 #include "support/FakeWaitWindow.h"
-#include "textjob/JobTransfer.h"
+#include "textjob/transfer/JobTransfer.h"
 
 namespace morvane::test {
 namespace {
