@@ -9,8 +9,8 @@
 #include "app/StartSettings.h"
 #include "app/frame/frmMain.h"
 #include "app/frmSplash.h"
+#include "common/Attempt.h"
 #include "common/ImportSettings.h"
-#include "common/RunTimeError.h"
 #include "gcode/ui/frmPreview.h"
 #include "platform/posix/PosixPaths.h"
 #include "platform/qt/QtSystem.h"
@@ -95,11 +95,10 @@ int Program::Run(const CommandLine& line) {
 // Settings that cannot be written stay as they are; every reader has its default.
 void Program::PrepareSettings() {
   files_.ClearLeftovers();
-  try {
+  common::Quietly([this] {
     common::ImportSettings(userStore_, settings_);
     WriteColorDefaults(settings_);
-  } catch (const common::RunTimeError&) {
-  }
+  });
 }
 
 // The working directory comes first, as a shell's user expects, then the base directory.

@@ -6,6 +6,7 @@
 
 #include "app/AppWindows.h"
 #include "app/CommandLine.h"
+#include "app/FailureNet.h"
 #include "common/RunAndWait.h"
 #include "common/Settings.h"
 #include "common/files/FileDialogs.h"
@@ -44,6 +45,7 @@ class Program {
 
   // From start to end; the process's exit status.
   int Run(const CommandLine& line);
+  void TellFailure(const std::string& description) { net_.Tell(description); }
 
   // For programs that drive its windows and look at what comes of it.
   const context::AppContext& Context() const { return context_; }
@@ -75,6 +77,7 @@ class Program {
   common::FileDialogs fileDialogs_;
   platform::QtClipboard clipboard_;
   context::StatusPanels statusPanels_;
+  FailureNet net_{prompts_, statusPanels_};
   textjob::ViewOptions viewOptions_;
   textjob::TextJob job_;
   textjob::PreviewState previewState_;

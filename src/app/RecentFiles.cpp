@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/Settings.h"
 
 namespace morvane::app {
@@ -36,10 +36,7 @@ void RememberFile(const common::Settings& settings, const std::string& path) {
   if (files.size() > kMaxRecentFiles) files.resize(kMaxRecentFiles);
   std::vector<common::SettingChange> changes;
   for (std::size_t i = 0; i < files.size(); ++i) changes.push_back({kSection, Key(i), files[i]});
-  try {
-    settings.Apply(changes);
-  } catch (const common::RunTimeError&) {
-  }
+  common::Quietly([&] { settings.Apply(changes); });
 }
 
 }  // namespace morvane::app

@@ -1,14 +1,14 @@
-#include <QApplication>
 #include <QDir>
 
 #include "app/AppIcon.h"
+#include "app/Application.h"
 #include "app/Program.h"
 #include "app/Version.h"
 #include "platform/qt/QtText.h"
 
 int main(int argc, char** argv) {
   using namespace morvane;
-  QApplication application(argc, argv);
+  app::Application application(argc, argv);
   QApplication::setApplicationName(app::kTitle);
   QApplication::setApplicationVersion(app::VersionText());
   QApplication::setQuitOnLastWindowClosed(false);
@@ -18,5 +18,8 @@ int main(int argc, char** argv) {
   const QString wanted = qEnvironmentVariable("MORVANE_BASE");
   const QString base = wanted.isEmpty() ? programDirectory : QDir(wanted).absolutePath();
   app::Program program(platform::PathFromQt(programDirectory), platform::PathFromQt(base));
-  return program.Run(app::ParseCommandLine(QApplication::arguments().mid(1)));
+  application.OnFailure([&program](const std::string& description) { program.TellFailure(description); });
+  const int status = program.Run(app::ParseCommandLine(QApplication::arguments().mid(1)));
+  application.OnFailure({});
+  return status;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/Attempt.h"
 #include "common/RunTimeError.h"
 #include "common/files/FileNames.h"
 #include "common/text/Lines.h"
@@ -82,13 +83,7 @@ std::string WriteFont(const FontTable& table) {
 
 bool SaveFont(const FontTable& table, const std::string& name, const common::Files& files,
               platform::Prompts& prompts) {
-  try {
-    files.Save(name, WriteFont(table));
-    return true;
-  } catch (const RunTimeError& error) {
-    prompts.MsgBox(error.description());
-    return false;
-  }
+  return common::AttemptTold(prompts, "", [&] { files.Save(name, WriteFont(table)); });
 }
 
 void loadFontChar(const FontTable& table, int code, std::vector<FontSegment>& segments, bool forward,

@@ -93,16 +93,21 @@ class Texts : public testing::Test {
     }
   }
 
-  // Captions count with and without their mnemonic.
+  // Captions count with and without their mnemonic, procedures with the sign that ends them in a box.
   void ReadSource(const TreeFile& file) {
     std::set<std::string>& parts = parts_[file.path];
     for (const std::string& string : StringsOf(file)) {
       for (const std::string& part : FixedParts(string))
-        parts.insert({part, common::ReplaceAll(part, "&", "")});
+        parts.insert({part, common::ReplaceAll(part, "&", ""), part + '-'});
     }
     parts.insert("");
     for (const std::string& text : Between(file.text, "MsgBox(\"", "\""))
       boxes_.push_back(common::ReplaceAll(text, "\\\\", "\\"));
+    for (const std::string& procedure : Between(file.text, "Attempt(", ")")) {
+      const Strings names = Between(procedure, "\"", "\"");
+      if (names.empty()) continue;
+      boxes_.push_back(names[0] + '-');
+    }
   }
 
   void ReadTests(const TreeFile& file) {

@@ -63,6 +63,16 @@ TEST(Words, OfNumberFormattingStandInOnePlace) {
   EXPECT_THAT(Matches(forbidden, scope), testing::IsEmpty());
 }
 
+// A form tells a failure through common/Attempt, or lets it go through it.
+TEST(Words, OfCaughtFailuresStandInNoForm) {
+  const auto scope = [](const TreeFile& file) {
+    const bool form = file.path.find("/ui/") != std::string::npos || file.path.find("/frm") != std::string::npos;
+    // Waits for the file cache, which tells what is missing.
+    return file.IsCode() && file.Under("src/") && form && file.path != "src/gcode/ui/JobView.cpp";
+  };
+  EXPECT_THAT(Matches(" cat%ch ", scope), testing::IsEmpty());
+}
+
 TEST(Words, AreFoundInTheirForms) {
   EXPECT_GT(ReadTree().size(), 200U);
   EXPECT_EQ(Forms("// A Big-one: 4.12"), "// a big-one: 0.00  A Big one 4 12  a big one 0 00 ");

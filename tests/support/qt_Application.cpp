@@ -1,8 +1,9 @@
 // The application object that every test of windows needs, for the whole run.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QStyleFactory>
+
+#include "app/Application.h"
 
 namespace morvane::test {
 namespace {
@@ -19,7 +20,7 @@ class QtEnvironment : public ::testing::Environment {
   int count_ = 1;
   char name_[8] = "tests";
   char* arguments_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_ = std::make_unique<QApplication>(count_, arguments_);
+  std::unique_ptr<app::Application> application_ = std::make_unique<app::Application>(count_, arguments_);
 };
 
 const ::testing::Environment* const kEnvironment = ::testing::AddGlobalTestEnvironment(new QtEnvironment);

@@ -11,7 +11,7 @@
 #include "app/frame/MdiChild.h"
 #include "app/frame/frmMain.h"
 #include "app/menu/MenuActions.h"
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/Settings.h"
 #include "common/files/Files.h"
 #include "common/text/Numbers.h"
@@ -61,11 +61,7 @@ std::vector<QString> LocalFiles(const QMimeData& data) {
 
 void frmMain::ReadGeometryAndMarks() {
   MainGeometry geometry;
-  try {
-    geometry = ReadGeometry(context_.settings);
-  } catch (const common::RunTimeError& error) {
-    context_.prompts.MsgBox("MDIForm_Load-" + error.description());
-  }
+  common::Attempt(context_.prompts, "MDIForm_Load", [&] { geometry = ReadGeometry(context_.settings); });
   context_.viewOptions = textjob::ReadViewOptions(context_.settings.Read());
   ShowViewMarks();
   HoldMinimumSize();
@@ -133,11 +129,8 @@ void frmMain::WriteGeometryAndMarks() {
   for (common::SettingChange& change : textjob::ViewOptionChanges(context_.viewOptions)) {
     changes.push_back(std::move(change));
   }
-  try {
-    context_.settings.Apply(changes);
-  } catch (const common::RunTimeError&) {
-    // Nobody is left to do anything about it, and the old settings are whole.
-  }
+  // Nobody is left to do anything about a failure, and the old settings are whole.
+  common::Quietly([&] { context_.settings.Apply(changes); });
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {

@@ -1,6 +1,6 @@
 #include "app/options/frmAddMachine.h"
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "context/AppContext.h"
 #include "platform/Prompts.h"
 #include "platform/qt/QtText.h"
@@ -24,13 +24,8 @@ void frmAddMachine::cmdAdd_Click() {
     context_.prompts.MsgBox("Please enter a Machine Name and IP Address");
     return;
   }
-  try {
-    link::AddMachine(context_.settings, machine_);
-  } catch (const common::RunTimeError& error) {
-    context_.prompts.MsgBox("cmdAdd_Click-" + error.description());
-    return;
-  }
-  accept();
+  const auto add = [this] { link::AddMachine(context_.settings, machine_); };
+  if (common::Attempt(context_.prompts, "cmdAdd_Click", add)) accept();
 }
 
 }  // namespace morvane::app

@@ -1,6 +1,6 @@
 #include "app/options/frmOptions.h"
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/files/ImageFiles.h"
 #include "common/text/Numbers.h"
 #include "common/text/Text.h"
@@ -16,7 +16,6 @@
 namespace morvane::app {
 
 using common::kSettingsSection;
-using common::RunTimeError;
 using platform::FromQt;
 using platform::ToQt;
 
@@ -102,19 +101,13 @@ std::vector<common::SettingChange> frmOptions::Changes() const {
 }
 
 bool frmOptions::Write(const std::vector<common::SettingChange>& changes, const char* procedure) {
-  try {
-    context_.settings.Apply(changes);
-    return true;
-  } catch (const RunTimeError& error) {
-    context_.prompts.MsgBox(procedure + error.description());
-    return false;
-  }
+  return common::Attempt(context_.prompts, procedure, [&] { context_.settings.Apply(changes); });
 }
 
 bool frmOptions::Apply() {
   HoldAboveZero("txtEditorHeight", "The editor height must be greater than 0, setting to 1");
   HoldAboveZero("txtEditorWidth", "The editor width must be greater than 0, setting to 1");
-  if (!Write(Changes(), "cmdApply_Click-")) return false;
+  if (!Write(Changes(), "cmdApply_Click")) return false;
   widgets::ShowUnits(*this, context_.settings);
   context_.windows.RedrawActiveJob();
   return true;

@@ -48,6 +48,7 @@ class frmOptions : public QDialog {
   void cmdAdd_Click();
   void cmdDelete_Click();
   void cmdImport_Click();
+  void ImportImage();
   void cmbBackground_Click();
   void picColor_Click(int index);
 

@@ -4,7 +4,7 @@
 
 #include "app/options/frmAddMachine.h"
 #include "app/options/frmOptions.h"
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/files/ImageFiles.h"
 #include "common/text/Numbers.h"
 #include "context/AppContext.h"
@@ -20,7 +20,6 @@
 namespace morvane::app {
 
 using common::OptionKind;
-using common::RunTimeError;
 using platform::FromQt;
 using platform::ToQt;
 
@@ -102,16 +101,16 @@ void frmOptions::cmdAdd_Click() {
     const platform::Operations::Scope scope(context_.operations);
     if (dialog.exec() != Accepted) return;
   }
-  Write(link::SelectionChanges(dialog.Machine()), "cmdAdd_Click-");
+  Write(link::SelectionChanges(dialog.Machine()), "cmdAdd_Click");
   FillMachines();
 }
 
-void frmOptions::cmdDelete_Click() try {
+void frmOptions::cmdDelete_Click() {
   if (ui_->cmbNetwork->currentIndex() < 0) return;
-  link::DeleteMachine(context_.settings, FromQt(ui_->cmbNetwork->currentText()));
-  FillMachines();
-} catch (const RunTimeError& error) {
-  context_.prompts.MsgBox("cmdDelete_Click-" + error.description());
+  common::Attempt(context_.prompts, "cmdDelete_Click", [this] {
+    link::DeleteMachine(context_.settings, FromQt(ui_->cmbNetwork->currentText()));
+    FillMachines();
+  });
 }
 
 void frmOptions::cmbBackground_Click() {
@@ -122,7 +121,11 @@ void frmOptions::cmbBackground_Click() {
   for (std::size_t i = 0; i < place.size(); ++i) fields[i]->setText(ToQt(place[i]));
 }
 
-void frmOptions::cmdImport_Click() try {
+void frmOptions::cmdImport_Click() {
+  common::Attempt(context_.prompts, "cmdImport_Click", [this] { ImportImage(); });
+}
+
+void frmOptions::ImportImage() {
   const std::string image = common::ImportImage(context_.files, context_.fileDialogs);
   if (image.empty()) return;
   widgets::ShowChoice(*ui_->cmbBackground, ToQt(image));
@@ -131,8 +134,6 @@ void frmOptions::cmdImport_Click() try {
   const QSizeF inches = platform::SizeInInches(context_.pictures.Get(image));
   ui_->txtImageWidth->setText(ToQt(common::PlainNumber(static_cast<float>(inches.width()))));
   ui_->txtImageHeight->setText(ToQt(common::PlainNumber(static_cast<float>(inches.height()))));
-} catch (const RunTimeError& error) {
-  context_.prompts.MsgBox("cmdImport_Click-" + error.description());
 }
 
 }  // namespace morvane::app

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/Attempt.h"
 #include "common/RunTimeError.h"
 #include "common/text/Numbers.h"
 #include "common/text/Text.h"
@@ -34,14 +35,6 @@ std::string JoinLines(std::string_view text) {
 }
 
 }  // namespace
-
-template <typename Work>
-bool JobEditor::Try(const std::string& procedure, Work&& work) try {
-  return work();
-} catch (const common::RunTimeError& error) {
-  parts_.prompts.MsgBox(procedure + error.description());
-  return false;
-}
 
 std::string JobEditor::Visit(std::string_view what) const {
   return std::string(what) + ' ' + std::to_string(visit_);
@@ -132,7 +125,7 @@ bool JobEditor::MoveTo(double x, double y, const recipes::Fixture* fixture) {
 }
 
 bool JobEditor::NewLine() {
-  return Try("NewJobLine-", [&] {
+  return common::Attempt(parts_.prompts, "NewJobLine", [&] {
     TextJob& job = parts_.job;
     std::string line =
         NewJobLine(job, parts_.document.Name(), parts_.settings.Read(), parts_.clock, parts_.locale);
@@ -145,7 +138,7 @@ bool JobEditor::DeleteLine() {
 }
 
 bool JobEditor::Offset(const std::string& x, const std::string& y, const std::string& depth) {
-  return Try("OffsetLines-", [&] {
+  return common::Attempt(parts_.prompts, "OffsetLines", [&] {
     TextJob& job = parts_.job;
     const LineOffset by{common::ParseSingle(x), common::ParseSingle(y), common::ParseSingle(depth)};
     BesideChange beside;
@@ -188,21 +181,21 @@ bool JobEditor::Cut() {
 }
 
 bool JobEditor::Paste() {
-  return Try("PasteLines-", [&] { return PasteLines(parts_.job, parts_.clipboard.Text()) > 0 && Changed(); });
+  return common::Attempt(parts_.prompts, "PasteLines",
+                         [&] { return PasteLines(parts_.job, parts_.clipboard.Text()) > 0 && Changed(); });
 }
 
 bool JobEditor::Duplicate() {
-  return Try("DuplicateLines-", [&] { return DuplicateLines(parts_.job) > 0 && Changed(); });
+  return common::Attempt(parts_.prompts, "DuplicateLines",
+                         [&] { return DuplicateLines(parts_.job) > 0 && Changed(); });
 }
 
 // The job is back; what could not be written beside it is told.
 bool JobEditor::Back(const std::optional<BesideValues>& beside) {
   EnterRow();
   if (!beside) return false;
-  Try("OffsetLines-", [&] {
-    ApplyBeside(parts_.files, parts_.settings, *beside);
-    return true;
-  });
+  common::Attempt(parts_.prompts, "OffsetLines",
+                  [&] { ApplyBeside(parts_.files, parts_.settings, *beside); });
   return true;
 }
 

@@ -83,8 +83,6 @@ class JobEditor {
   bool Changed(std::string_view visit = {}, const BesideChange& beside = {});
   bool ToClipboard();
   bool Back(const std::optional<BesideValues>& beside);
-  template <typename Work>
-  bool Try(const std::string& procedure, Work&& work);
 
   JobEditorParts parts_;
   JobHistory history_;

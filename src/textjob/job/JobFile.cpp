@@ -1,6 +1,6 @@
 #include "textjob/job/JobFile.h"
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/text/Numbers.h"
 #include "common/text/Text.h"
 #include "textjob/job/modTjb.h"
@@ -15,25 +15,15 @@ bool LoadTjbFile(TextJob& job, const std::string& name, const common::Files& fil
   if (name == kNewJob) return true;
   // A file without a comment line has no comment; it does not inherit the last job's.
   job.Comment.clear();
-  try {
-    ReadTjb(files.Read(name), job);
-    return true;
-  } catch (const common::RunTimeError& error) {
-    prompts.MsgBox("Load(" + name + ") " + error.description());
-    return false;
-  }
+  return common::AttemptTold(prompts, "Load(" + name + ") ", [&] { ReadTjb(files.Read(name), job); });
 }
 
 bool SaveTjbFile(TextJob& job, const std::string& name, const common::Files& files,
                  platform::Prompts& prompts) {
-  try {
+  return common::AttemptTold(prompts, "Save(" + name + ") ", [&] {
     files.Save(name, WriteTjb(job));
     job.Dirty = false;
-    return true;
-  } catch (const common::RunTimeError& error) {
-    prompts.MsgBox("Save(" + name + ") " + error.description());
-    return false;
-  }
+  });
 }
 
 std::vector<std::string> JobList(const common::Files& files, const std::string& wanted,

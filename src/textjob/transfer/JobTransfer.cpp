@@ -1,6 +1,6 @@
 #include "textjob/transfer/JobTransfer.h"
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/files/FileNames.h"
 #include "common/text/Text.h"
 #include "link/ControllerNames.h"
@@ -109,11 +109,9 @@ bool JobTransfer::Run(const std::string& name, const std::string& command) {
 bool JobTransfer::Upload() {
   if (!sources_.comm.UploadFile("QT7250FILES *.TJB", link::kListing)) return false;
   std::string name;
-  try {
+  common::AttemptTold(sources_.prompts, std::string("Load(") + link::kListing + ") ", [&] {
     name = sources_.prompts.PickOne("Select File", link::ListedNames(sources_.files));
-  } catch (const common::RunTimeError& error) {
-    sources_.prompts.MsgBox(std::string("Load(") + link::kListing + ") " + error.description());
-  }
+  });
   if (name.empty() || Aborted() || !FetchJob(name)) return false;
   FetchFiles();
   if (Aborted()) return false;

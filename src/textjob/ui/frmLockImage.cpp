@@ -1,6 +1,6 @@
 #include "textjob/ui/frmLockImage.h"
 
-#include "common/RunTimeError.h"
+#include "common/Attempt.h"
 #include "common/files/FileNames.h"
 #include "common/files/ImageFiles.h"
 #include "common/text/Numbers.h"
@@ -24,8 +24,8 @@ frmLockImage::frmLockImage(const context::AppContext& context, std::string job, 
   ShowRecord();
   connect(ui_->cmbImage, &QComboBox::activated, this, &frmLockImage::cmbImage_Click);
   connect(ui_->cmdImport, &QPushButton::clicked, this, &frmLockImage::cmdImport_Click);
-  connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { Write(false, "cmdOk_Click-"); });
-  connect(ui_->cmdUnlock, &QPushButton::clicked, this, [this] { Write(true, "cmdUnlock_Click-"); });
+  connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { Write(false, "cmdOk_Click"); });
+  connect(ui_->cmdUnlock, &QPushButton::clicked, this, [this] { Write(true, "cmdUnlock_Click"); });
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -74,13 +74,8 @@ void frmLockImage::Write(bool remove, const char* procedure) {
                           number(y),
                           number(width),
                           number(height)};
-  try {
-    WriteLockRecord(context_.files, record, remove);
-  } catch (const common::RunTimeError& error) {
-    context_.prompts.MsgBox(procedure + error.description());
-    return;
-  }
-  accept();
+  const auto write = [&] { WriteLockRecord(context_.files, record, remove); };
+  if (common::Attempt(context_.prompts, procedure, write)) accept();
 }
 
 void frmLockImage::cmbImage_Click() {
@@ -90,13 +85,13 @@ void frmLockImage::cmbImage_Click() {
   for (std::size_t i = 0; i < place.size(); ++i) Fields()[i]->setText(ToQt(place[i]));
 }
 
-void frmLockImage::cmdImport_Click() try {
-  const std::string image = common::ImportImage(context_.files, context_.fileDialogs);
-  if (image.empty()) return;
-  FillList(image);
-  cmbImage_Click();
-} catch (const common::RunTimeError& error) {
-  context_.prompts.MsgBox("cmdImport_Click-" + error.description());
+void frmLockImage::cmdImport_Click() {
+  common::Attempt(context_.prompts, "cmdImport_Click", [this] {
+    const std::string image = common::ImportImage(context_.files, context_.fileDialogs);
+    if (image.empty()) return;
+    FillList(image);
+    cmbImage_Click();
+  });
 }
 
 }  // namespace morvane::textjob
