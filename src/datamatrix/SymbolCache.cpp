@@ -34,7 +34,7 @@ std::string RunTool(const common::ProcessRunner& runner, const std::string& dens
 // Rows of the cache unless the symbol's file is newer; empty also when the cache is missing or damaged.
 ModuleRows CachedRows(const common::Files& files, const std::string& cache, std::int64_t changed) {
   if (!files.FileExists(cache) || changed > files.ModifiedTime(cache)) return {};
-  return ParseModuleRows(files.Read(cache));
+  return *files.ReadAs<ParseModuleRows>(cache);
 }
 
 // Makes the symbol of the file at `path` and caches it.

@@ -39,7 +39,7 @@ DataMatrixFile ParseDataMatrix(std::string_view bytes, MissingMarker missing) {
 }
 
 DataMatrixFile ReadDataMatrix(const common::Files& files, std::string_view name, MissingMarker missing) {
-  return ParseDataMatrix(files.ReadInside(name), missing);
+  return ParseDataMatrix(*files.ReadKeptInside(name), missing);
 }
 
 std::string FormatDataMatrix(const DataMatrixFile& file) {

@@ -3,8 +3,10 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace morvane::fonts {
 
@@ -21,6 +23,12 @@ struct FontSegment {
   float Y2 = 0;
 };
 
+// The lines of a font's file.
+struct FontLines {
+  // Line N is that of character code N; line 0 stays empty. Lines that the file lacks are not there.
+  std::vector<std::string> lines;
+};
+
 struct FontTable {
   // Entry N is the line of character code N; entry 0 stays empty.
   std::array<std::string, kFontCodes> FontChars;
@@ -28,8 +36,8 @@ struct FontTable {
   std::string FontName;
   // Names that could not be loaded, which the user knows.
   std::set<std::string> missing;
-  // Rises with every load, so that what was derived from the table knows when it is stale.
-  std::uint64_t version = 0;
+  // Stands for what the entries hold: equal for two tables, or two moments, that hold the same.
+  std::shared_ptr<const FontLines> content;
 };
 
 }  // namespace morvane::fonts

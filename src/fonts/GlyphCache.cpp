@@ -1,5 +1,7 @@
 #include "fonts/GlyphCache.h"
 
+#include <algorithm>
+
 #include "fonts/modFont.h"
 
 namespace morvane::fonts {
@@ -20,14 +22,22 @@ Glyph WayThrough(const std::vector<FontSegment>& segments) {
 
 }  // namespace
 
-const Glyph& GlyphCache::Get(unsigned char code, bool forward, bool wide) {
-  if (version_ != table_.version) {
-    for (Glyphs& glyphs : variants_) {
-      for (auto& glyph : glyphs) glyph.reset();
-    }
-    version_ = table_.version;
+void GlyphCache::Turn() {
+  const auto found = std::find_if(fonts_.begin(), fonts_.end(),
+                                  [&](const auto& font) { return font->content == table_.content; });
+  if (found != fonts_.end()) {
+    shown_ = found->get();
+    return;
   }
-  auto& glyph = variants_[(forward ? 0U : 1U) + (wide ? 2U : 0U)][code];
+  if (fonts_.size() == kMostFonts) fonts_.erase(fonts_.begin());
+  fonts_.push_back(std::make_unique<Font>());
+  shown_ = fonts_.back().get();
+  shown_->content = table_.content;
+}
+
+const Glyph& GlyphCache::Get(unsigned char code, bool forward, bool wide) {
+  if (!shown_ || shown_->content != table_.content) Turn();
+  auto& glyph = shown_->variants[(forward ? 0U : 1U) + (wide ? 2U : 0U)][code];
   if (!glyph) {
     std::vector<FontSegment> segments;
     loadFontChar(table_, code, segments, forward, wide ? 1.0F : 0.0F);

@@ -1,4 +1,4 @@
-// Characters read once for each loaded font: the preview asks for the same few again and again.
+// Characters read once for each font: the preview asks for the same few again and again.
 #pragma once
 
 #include <array>
@@ -28,11 +28,21 @@ class GlyphCache {
   const Glyph& Get(unsigned char code, bool forward, bool wide);
 
  private:
+  // Jobs of several fonts change between them from line to line.
+  static constexpr std::size_t kMostFonts = 8;
+
   using Glyphs = std::array<std::unique_ptr<Glyph>, kFontCodes>;
+  struct Font {
+    std::shared_ptr<const FontLines> content;
+    std::array<Glyphs, 4> variants;  // by direction and width mode
+  };
+
+  // To the font that the table holds now.
+  void Turn();
 
   const FontTable& table_;
-  std::uint64_t version_ = 0;
-  std::array<Glyphs, 4> variants_;  // by direction and width mode
+  std::vector<std::unique_ptr<Font>> fonts_;  // newest last
+  Font* shown_ = nullptr;
 };
 
 }  // namespace morvane::fonts

@@ -46,11 +46,21 @@ void StretchToCell(std::vector<FontSegment>& segments) {
 
 }  // namespace
 
-void ReadFont(std::string_view bytes, FontTable& table) {
-  ++table.version;
+FontLines ParseFont(std::string_view bytes) {
+  FontLines file;
+  file.lines.emplace_back();
   common::Lines lines(bytes);
   std::string_view line;
-  for (std::size_t code = 1; code < kFontCodes && lines.Next(line); ++code) table.FontChars[code] = line;
+  while (file.lines.size() < kFontCodes && lines.Next(line)) file.lines.emplace_back(line);
+  return file;
+}
+
+void ReadFont(std::shared_ptr<const FontLines> file, FontTable& table) {
+  if (table.content == file) return;
+  std::copy(file->lines.begin() + 1, file->lines.end(), table.FontChars.begin() + 1);
+  // Behind a short file stand entries of an earlier one: such a table is like no other.
+  const bool whole = file->lines.size() == kFontCodes;
+  table.content = whole ? std::move(file) : std::make_shared<const FontLines>();
 }
 
 bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, const common::Files& files,
@@ -63,7 +73,7 @@ bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, cons
     return false;
   }
   try {
-    ReadFont(files.Read(file), table);
+    ReadFont(files.ReadAs<ParseFont>(file), table);
     table.missing.erase(name);
     return true;
   } catch (const RunTimeError& error) {

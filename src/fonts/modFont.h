@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,10 @@ enum class FontOrigin { Operator, Document };
 // that failed before too: lines of other fonts make each drawing pass try it again.
 bool LoadFont(FontTable& table, const std::string& name, FontOrigin origin, const common::Files& files,
               platform::Prompts& prompts);
-// Puts a file's lines into the table from entry 1 on; lines behind the 255th are ignored.
-void ReadFont(std::string_view bytes, FontTable& table);
+// Puts a file's lines into the table from entry 1 on.
+void ReadFont(std::shared_ptr<const FontLines> file, FontTable& table);
+// Lines behind the 255th are ignored.
+FontLines ParseFont(std::string_view bytes);
 
 // Writes entries 1 to 255 as they stand, checked. On failure shows the error's description.
 bool SaveFont(const FontTable& table, const std::string& name, const common::Files& files,

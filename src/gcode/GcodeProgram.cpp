@@ -48,4 +48,8 @@ GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals) {
   return program;
 }
 
+GcodeProgram ParseProgram(std::string_view text) {
+  return ReadProgram(text);
+}
+
 }  // namespace morvane::gcode

@@ -20,6 +20,7 @@ class GcodeProgram {
   Statement& Append();
   void DropLast();
   std::size_t Size() const { return size_; }
+  std::size_t KeptBytes() const { return size_ * sizeof(Statement); }
 
   // Calls `visit(const Statement&)` in the order of the text.
   template <typename Visit>
@@ -37,5 +38,7 @@ class GcodeProgram {
 // Reads the text of a job. Unknown lines are left out, but for one behind a tool change: measuring needs
 // to know of it. The editor reads with `foldToCapitals`.
 GcodeProgram ReadProgram(std::string_view text, bool foldToCapitals = false);
+// What the viewers and the preview of a job draw: without folding.
+GcodeProgram ParseProgram(std::string_view text);
 
 }  // namespace morvane::gcode

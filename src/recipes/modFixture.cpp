@@ -73,7 +73,7 @@ Fixture ParseFixture(std::string_view bytes) {
 }
 
 Fixture ReadFixture(const common::Files& files, std::string_view name) {
-  return ParseFixture(files.Read(name));
+  return *files.ReadAs<ParseFixture>(name);
 }
 
 std::string FormatFixture(const Fixture& fixture) {

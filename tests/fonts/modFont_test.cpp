@@ -123,10 +123,13 @@ TEST_F(FontFile, TheGlyphCacheFollowsTheTable) {
       out << (p.down ? "-" : " ") << p.x << ',' << p.y;
     return out.str();
   };
-  ReadFont("1:0,0,1,1;1,1,2,1;5,5,6,6\n", table);
+  const auto read = [&](const char* bytes) {
+    ReadFont(std::make_shared<const FontLines>(ParseFont(bytes)), table);
+  };
+  read("1:0,0,1,1;1,1,2,1;5,5,6,6\n");
   EXPECT_EQ(show(true), " 0,0-1,1-2,1 5,5-6,6");
   EXPECT_EQ(show(false), " 6,6-5,5 2,1-1,1-0,0");
-  ReadFont("1:2,2,3,3\n", table);
+  read("1:2,2,3,3\n");
   EXPECT_EQ(show(true), " 2,2-3,3");
 }
 

@@ -74,7 +74,7 @@ void ReadRecovery(const std::string& texts) {
 // Every character can be asked for, in all four ways, and by the viewer's scanner.
 void ReadFont(const std::string& bytes) {
   fonts::FontTable table;
-  fonts::ReadFont(bytes, table);
+  fonts::ReadFont(std::make_shared<const fonts::FontLines>(fonts::ParseFont(bytes)), table);
   std::vector<fonts::FontSegment> segments;
   for (int code = 0; code < fonts::kFontCodes; ++code) {
     const std::string& line = table.FontChars[static_cast<std::size_t>(code)];

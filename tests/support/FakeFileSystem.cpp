@@ -85,6 +85,7 @@ platform::FileStatus FakeFileSystem::Status(const std::string& path) const {
 }
 
 Error FakeFileSystem::Read(const std::string& path, std::string& bytes) const {
+  ++reads[Clean(path)];
   const Error error = faults.read == Error::None ? CheckFile(Clean(path)) : faults.read;
   if (error == Error::None) bytes = entries_.at(Clean(path)).bytes;
   return error;

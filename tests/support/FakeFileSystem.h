@@ -18,6 +18,7 @@ class FakeFileSystem : public platform::FileSystem {
   };
   Faults faults;
   mutable int statusCalls = 0;
+  mutable std::map<std::string, int> reads;  // how often each file was opened for reading
 
   // The directory that exists at first, with all above it.
   explicit FakeFileSystem(const std::string& directory = "/base") { MakeDirectories(directory); }

@@ -25,7 +25,9 @@ bool SortsBefore(const std::string& a, const std::string& b) {
 }  // namespace
 
 Files::Files(platform::FileSystem& fileSystem, std::string baseDirectory, std::string temporaryDirectory)
-    : fileSystem_(fileSystem), paths_(fileSystem, std::move(baseDirectory), std::move(temporaryDirectory)) {}
+    : fileSystem_(fileSystem),
+      paths_(fileSystem, std::move(baseDirectory), std::move(temporaryDirectory)),
+      cache_(std::make_unique<FileCache>(fileSystem)) {}
 
 std::string Files::Resolve(std::string_view name) const {
   return paths_.Resolve(name);
@@ -82,7 +84,9 @@ std::vector<std::string> Files::List(std::string_view pattern, std::string_view 
 }
 
 void Files::RemoveQuietly(std::string_view name) const {
-  fileSystem_.Remove(Resolve(name));
+  const std::string path = Resolve(name);
+  cache_->Forget(path);
+  fileSystem_.Remove(path);
 }
 
 void Files::Copy(std::string_view from, std::string_view to) const {
@@ -93,6 +97,7 @@ void Files::Copy(std::string_view from, std::string_view to) const {
 
 void Files::WriteStraight(std::string_view name, std::string_view bytes) const {
   const std::string path = Resolve(name);
+  cache_->Forget(path);
   const FileStatus status = fileSystem_.Status(path);
   if (status.kind == EntryKind::File && !status.writable) throw RunTimeError(kPermissionDenied);
   Error error = Error::None;
@@ -105,7 +110,9 @@ void Files::WriteStraight(std::string_view name, std::string_view bytes) const {
 }
 
 void Files::Save(std::string_view name, std::string_view bytes) const {
-  CheckedSave(fileSystem_, Resolve(name), bytes);
+  const std::string path = Resolve(name);
+  cache_->Forget(path);
+  CheckedSave(fileSystem_, path, bytes);
 }
 
 void Files::ClearLeftovers() const {

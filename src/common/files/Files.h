@@ -1,10 +1,12 @@
 // Maps the program's own names (`\Temp\tmp.lst`, `NAME.EXT`, `C:\run.ret`) to the file system.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "common/files/FileCache.h"
 #include "common/files/PathResolver.h"
 #include "platform/FileSystem.h"
 
@@ -38,6 +40,18 @@ class Files {
   std::string Read(std::string_view name) const;
   // The same for a name out of a document.
   std::string ReadInside(std::string_view name) const;
+  // The same, and what `kParse` makes of the bytes, read once for each state of the file: see FileCache. For
+  // what is asked for again and again.
+  SharedBytes ReadKept(std::string_view name) const { return cache_->Bytes(Resolve(name)); }
+  SharedBytes ReadKeptInside(std::string_view name) const { return cache_->Bytes(ResolveInside(name)); }
+  template <auto kParse>
+  auto ReadAs(std::string_view name) const {
+    return cache_->Product<kParse>(Resolve(name));
+  }
+  template <auto kParse>
+  auto ReadInsideAs(std::string_view name) const {
+    return cache_->Product<kParse>(ResolveInside(name));
+  }
   // Time stamp in nanoseconds since 1970; throws "File not found".
   std::int64_t ModifiedTime(std::string_view name) const;
   // Files of a folder (default: the base directory) that match, sorted by name without regard to case,
@@ -67,6 +81,8 @@ class Files {
 
   platform::FileSystem& fileSystem_;
   PathResolver paths_;
+  // Reading changes nothing that a caller could see, so it is no part of being const.
+  std::unique_ptr<FileCache> cache_;
 };
 
 }  // namespace morvane::common

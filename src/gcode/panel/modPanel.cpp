@@ -33,7 +33,7 @@ Panel ParsePanel(std::string_view bytes) {
 
 std::optional<Panel> ReadPanel(const common::Files& files, std::string_view name) {
   try {
-    return ParsePanel(files.ReadInside(name));
+    return *files.ReadInsideAs<ParsePanel>(name);
   } catch (const common::RunTimeError&) {
     return std::nullopt;
   }

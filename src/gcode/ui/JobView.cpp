@@ -12,7 +12,9 @@
 namespace morvane::widgets {
 
 JobView::JobView(QWidget* parent)
-    : CanvasView(parent), program_(std::make_shared<const gcode::GcodeProgram>()) {
+    : CanvasView(parent),
+      text_(std::make_shared<const std::string>()),
+      program_(std::make_shared<const gcode::GcodeProgram>()) {
   connect(this, &CanvasView::Resized, this, &JobView::ShowFile);
 }
 
@@ -34,24 +36,19 @@ void JobView::ShowPosition(const QPointF& world) {
 
 void JobView::OpenFile(const std::string& name) {
   name_ = name;
-  modified_ = 0;
   ShowFile();
 }
 
-// A job that was written anew since it was read is read again.
 void JobView::ReadFile() {
   options_.settings = gcode::ReadViewerSettings(context_->settings.Read());
   try {
     if (name_.empty()) throw common::RunTimeError(common::kFileNotFound);
-    const std::int64_t modified = context_->files.ModifiedTime(name_);
-    if (modified == modified_) return;
-    text_ = context_->files.Read(name_);
-    modified_ = modified;
+    text_ = context_->files.ReadKept(name_);
+    program_ = context_->files.ReadAs<gcode::ParseProgram>(name_);
   } catch (const common::RunTimeError&) {
-    text_.clear();
-    modified_ = 0;
+    text_ = std::make_shared<const std::string>();
+    program_ = std::make_shared<const gcode::GcodeProgram>();
   }
-  program_ = std::make_shared<const gcode::GcodeProgram>(gcode::ReadProgram(text_));
 }
 
 void JobView::ShowFile() {

@@ -1,7 +1,6 @@
 // A canvas view that shows a G-code job as one of the viewers does.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -30,13 +29,14 @@ class JobView : public CanvasView {
   // nothing, without a message.
   void OpenFile(const std::string& name);
   // The file as text, as it was read last.
-  const std::string& Text() const { return text_; }
+  const std::string& Text() const { return *text_; }
   // Sets the scale anew and draws.
   void ShowFile();
   // Draws at the scale that stands.
   void DrawFile();
 
  private:
+  // A job that was written anew since it was read is read again.
   void ReadFile();
   void ShowPosition(const QPointF& world);
 
@@ -44,8 +44,7 @@ class JobView : public CanvasView {
   gcode::PassOptions options_;
   gcode::Surface surface_;
   std::string name_;
-  std::string text_;
-  std::int64_t modified_ = 0;
+  std::shared_ptr<const std::string> text_;
   std::shared_ptr<const gcode::GcodeProgram> program_;
 };
 

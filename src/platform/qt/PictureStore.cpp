@@ -1,22 +1,26 @@
 #include "platform/qt/PictureStore.h"
 
+#include <QBuffer>
 #include <QImageReader>
-#include <algorithm>
 
 #include "common/RunTimeError.h"
 #include "common/files/Files.h"
-#include "platform/qt/QtText.h"
 
 namespace morvane::platform {
 namespace {
 
-constexpr std::size_t kMaxEntries = 8;
+struct Decoded {
+  QImage image;
+  std::size_t KeptBytes() const { return static_cast<std::size_t>(image.sizeInBytes()); }
+};
 
-QImage Load(const std::string& path) {
-  QImageReader reader(PathToQt(path));
+Decoded Decode(const std::string& bytes) {
+  QByteArray view = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&view);
+  QImageReader reader(&buffer);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
-  return reader.read();
+  return {reader.read()};
 }
 
 }  // namespace
@@ -31,21 +35,10 @@ QSizeF SizeInInches(const QImage& picture) {
           picture.height() * kInchesPerMeter / picture.dotsPerMeterY()};
 }
 
-const QImage& PictureStore::Get(const std::string& name) {
-  std::string path;
-  std::int64_t modified = 0;
-  try {
-    path = files_.Resolve(name);
-    modified = files_.ModifiedTime(name);
-  } catch (const common::RunTimeError&) {
-    return none_;
-  }
-  const auto found =
-      std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.path == path; });
-  if (found != entries_.end() && found->modified == modified) return found->image;
-  if (found != entries_.end()) entries_.erase(found);
-  if (entries_.size() >= kMaxEntries) entries_.erase(entries_.begin());
-  return entries_.emplace_back(Entry{path, modified, Load(path)}).image;
+QImage PictureStore::Get(const std::string& name) const try {
+  return files_.ReadAs<Decode>(name)->image;
+} catch (const common::RunTimeError&) {
+  return {};
 }
 
 }  // namespace morvane::platform

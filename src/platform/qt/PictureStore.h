@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QImage>
-#include <cstdint>
 #include <string>
-#include <vector>
 
 namespace morvane::common {
 class Files;
@@ -20,18 +18,10 @@ class PictureStore {
   explicit PictureStore(const common::Files& files) : files_(files) {}
   // By program name. The kind is told by the file's content (bmp with its run-length form, jpg, gif,
   // ico), not by its name. A null image when it cannot be loaded.
-  const QImage& Get(const std::string& name);
+  QImage Get(const std::string& name) const;
 
  private:
-  struct Entry {
-    std::string path;
-    std::int64_t modified = 0;
-    QImage image;
-  };
-
   const common::Files& files_;
-  std::vector<Entry> entries_;  // newest last
-  QImage none_;
 };
 
 }  // namespace morvane::platform

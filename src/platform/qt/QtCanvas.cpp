@@ -182,7 +182,7 @@ void QtCanvas::Text(float x, float y, const std::string& text, Color color, cons
 }
 
 void QtCanvas::Image(const std::string& name, const Rectangle& place) {
-  const QImage& image = pictures_.Get(name);
+  const QImage image = pictures_.Get(name);
   const QRectF whole = Place(place);
   // Only the part that shows, since a deep zoom makes the whole larger than a painter can take.
   const QRectF shown = whole & QRectF(QPointF(), QSizeF(surface_.pixels));

@@ -40,8 +40,9 @@ std::string ReadList(const common::Files& files) {
 }  // namespace
 
 bool FindLockRecord(const common::Files& files, LockRecord& record) try {
-  const std::string bytes = ReadList(files);
-  common::Lines lines(bytes);
+  if (!files.FileExists(kList)) return false;
+  const common::SharedBytes bytes = files.ReadKept(kList);
+  common::Lines lines(*bytes);
   std::string_view line;
   while (lines.Next(line)) {
     if (!IsLineOf(line, record.Job)) continue;

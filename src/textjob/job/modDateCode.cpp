@@ -188,7 +188,7 @@ std::string SerialFromJob(const std::string& name, std::string_view index, const
   if (common::IsNumeric(name)) return name;
   TextJob job;
   try {
-    ReadTjb(files.ReadInside(name + ".TJB"), job);
+    ReadTjb(*files.ReadKeptInside(name + ".TJB"), job);
   } catch (const common::RunTimeError&) {
     // A job that is missing has no lines; one that is too long has those that fit.
   }

@@ -19,7 +19,7 @@ void DrawFile(PassContext& pass, const TextJobLine& line, const GraphicPlacement
               platform::Color color) {
   HitPoint(pass, line);
   if (line.Text.empty()) return;
-  DrawGraphic(pass.sources.files.ReadInside(line.Text), placement, color, pass.pen);
+  DrawGraphic(*pass.sources.files.ReadInsideAs<gcode::ParseProgram>(line.Text), placement, color, pass.pen);
 }
 
 // The pen is at the rectangle's first corner.

@@ -1,7 +1,6 @@
 #include "textjob/preview/PreviewGraphic.h"
 
 #include "common/RunTimeError.h"
-#include "common/text/Lines.h"
 #include "gcode/Geometry.h"
 #include "gcode/Statement.h"
 
@@ -67,12 +66,10 @@ class GraphicReader {
 
 }  // namespace
 
-void DrawGraphic(std::string_view bytes, const GraphicPlacement& placement, platform::Color color,
+void DrawGraphic(const gcode::GcodeProgram& graphic, const GraphicPlacement& placement, platform::Color color,
                  PreviewPen& pen) {
   GraphicReader reader(placement, color, pen);
-  common::Lines lines(bytes);
-  std::string_view line;
-  while (lines.Next(line)) reader.Draw(gcode::ParseStatement(line));
+  graphic.ForEach([&](const Statement& statement) { reader.Draw(statement); });
 }
 
 }  // namespace morvane::textjob

@@ -1,8 +1,7 @@
 // G-code files inside a job's preview: a subset of the dialect, scaled, turned and put in place.
 #pragma once
 
-#include <string_view>
-
+#include "gcode/GcodeProgram.h"
 #include "textjob/preview/PreviewPen.h"
 
 namespace morvane::textjob {
@@ -15,9 +14,9 @@ struct GraphicPlacement {
   float rotate = 0;  // degrees, clockwise on the display
 };
 
-// Draws the statements of a file in their order; lines that are none are skipped. Throws at an arc that
+// Draws the statements of a file in their order. Throws at an arc that
 // lacks a word or leaves the range of the numbers; what was drawn before it stays.
-void DrawGraphic(std::string_view bytes, const GraphicPlacement& placement, platform::Color color,
+void DrawGraphic(const gcode::GcodeProgram& graphic, const GraphicPlacement& placement, platform::Color color,
                  PreviewPen& pen);
 
 }  // namespace morvane::textjob

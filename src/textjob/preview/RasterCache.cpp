@@ -14,7 +14,7 @@ RasterStatus Bake(const common::ProcessRunner& runner, const std::string& name, 
   runner.files.EnsureTemp();
   const int exitCode = runner.RunAndWait(kTool, {"/R", ".\\" + name, "." + bitmap});
   if (exitCode == common::kCannotStart) return RasterStatus::ToolNotFound;
-  if (exitCode == 0 && BitmapSize(runner.files.Read(bitmap))) return RasterStatus::Ready;
+  if (exitCode == 0 && *runner.files.ReadAs<BitmapSize>(bitmap)) return RasterStatus::Ready;
   // Half a bitmap would be newer than its raster and pass for a good one in the next pass.
   runner.files.RemoveQuietly(bitmap);
   return RasterStatus::Failed;
@@ -45,12 +45,8 @@ RasterBitmap BuildRasterBitmap(const common::ProcessRunner& runner, const std::s
   return {status, {}};
 }
 
-std::optional<PixelSize> RasterSizes::Get(const common::Files& files, const std::string& name) try {
-  const std::string bitmap = common::ScratchName(name, ".BMP");
-  const std::int64_t modified = files.ModifiedTime(bitmap);
-  Entry& entry = entries_[name];
-  if (entry.modified != modified) entry = {modified, BitmapSize(files.Read(bitmap))};
-  return entry.size;
+std::optional<PixelSize> RasterSize(const common::Files& files, const std::string& name) try {
+  return *files.ReadAs<BitmapSize>(common::ScratchName(name, ".BMP"));
 } catch (const common::RunTimeError&) {
   return std::nullopt;
 }

@@ -1,7 +1,6 @@
 // The bitmaps that stand for raster files in the preview: baked by the side tool, kept in `\Temp\`.
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -31,18 +30,7 @@ using FailedRasters = std::map<std::string, RasterStatus>;
 RasterBitmap BuildRasterBitmap(const common::ProcessRunner& runner, const std::string& name,
                                FailedRasters& failed);
 
-// Sizes in pixels of the rasters' bitmaps, each read once until its bitmap changes.
-class RasterSizes {
- public:
-  // Nothing when the last pass left no bitmap. Runs no tool.
-  std::optional<PixelSize> Get(const common::Files& files, const std::string& name);
-
- private:
-  struct Entry {
-    std::int64_t modified = 0;
-    std::optional<PixelSize> size;
-  };
-  std::map<std::string, Entry> entries_;
-};
+// The size in pixels of a raster's bitmap; nothing when the last pass left none. Runs no tool.
+std::optional<PixelSize> RasterSize(const common::Files& files, const std::string& name);
 
 }  // namespace morvane::textjob

@@ -11,7 +11,6 @@
 
 #include "textjob/edit/JobEditor.h"
 #include "textjob/job/JobDocument.h"
-#include "textjob/preview/RasterCache.h"
 
 namespace morvane::context {
 struct AppContext;
@@ -104,7 +103,6 @@ class frmEdit : public QWidget {
   std::unique_ptr<Ui::frmEdit> ui_;
   JobDocument document_;
   JobEditor editor_;
-  RasterSizes rasterSizes_;
   std::string shownSelection_;  // the lines that the grid shows
   QTimer copyDue_;
   QTimer resized_;  // one pass for a burst of sizes

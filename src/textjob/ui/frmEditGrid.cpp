@@ -8,6 +8,7 @@
 #include "textjob/edit/FileEditors.h"
 #include "textjob/edit/RowEditors.h"
 #include "textjob/preview/PreviewState.h"
+#include "textjob/preview/RasterCache.h"
 #include "textjob/preview/ViewOptions.h"
 #include "textjob/ui/frmEdit.h"
 #include "ui_frmEdit.h"
@@ -75,7 +76,7 @@ RowContext frmEdit::RowsContext() {
   rows.proFonts = settings.Get(common::kSettingsSection, "ProFonts", "0") == "1";
   const recipes::Fixture* fixture = ShownFixture();
   rows.sides = fixture != nullptr && fixture->Type == recipes::kFixtureIndex;
-  rows.imageSize = [this](const std::string& name) { return rasterSizes_.Get(context_.files, name); };
+  rows.imageSize = [this](const std::string& name) { return RasterSize(context_.files, name); };
   return rows;
 }
 

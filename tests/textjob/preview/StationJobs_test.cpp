@@ -71,6 +71,22 @@ TEST_F(StationJobs, DrawWithoutAMessageWithEachFixture) {
   }
 }
 
+TEST_F(StationJobs, AKeyTypedOpensNoFile) {
+  for (const std::string& name : station.files.List("*.TJB")) {
+    TextJob job;
+    LoadTjbFile(job, name, station.files, station.prompts);
+    station.Draw(job.Lines, {true, true, true, true, true});
+    station.disk.reads.clear();
+    job.Lines[0] += ' ';
+    station.Draw(job.Lines, {true, true, true, true, true});
+    // The settings have their own reader; the side programs, which do not run here, are tried again.
+    for (const char* again : {"Morvane.ini", "out.txt", "Temp/PHOTO.BMP"}) {
+      station.disk.reads.erase(std::string("/base/") + again);
+    }
+    EXPECT_THAT(station.disk.reads, testing::IsEmpty()) << name;
+  }
+}
+
 // What the program would save is what lies there, so that a first save changes nothing but what was edited.
 TEST_F(StationJobs, EveryDocumentIsAsTheProgramWritesIt) {
   ExpectUnchanged("*.TJB", [this](const std::string& bytes) {
