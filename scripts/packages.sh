@@ -3,7 +3,7 @@
 packages_to_build=(
   g++ cmake ninja-build ccache
   # The windows, the adapters and the command line.
-  qt6-base-dev qt6-serialport-dev
+  qt6-base-dev qt6-svg-dev qt6-serialport-dev
   # Closing windows of other programs by their title.
   libxcb1-dev
   # SQRGEN.EXE

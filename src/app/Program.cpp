@@ -63,6 +63,7 @@ Program::Program(const std::string& programDirectory, const std::string& baseDir
                .windows = windows_,
                .abortTransfers = abortTransfers_,
                .developerMode = developerMode_} {
+  prompts_.SetStation(platform::PathToQt(baseDirectory));
   prompts_.SetSidePanel("job", [this](QFileDialog& dialog) { return PreviewPanel(dialog); });
 }
 

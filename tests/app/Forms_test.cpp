@@ -1,11 +1,14 @@
 // What holds of every form: the Tab key goes the way that the eye goes, no caption is cut off at the least
-// size, no two letters of a form are the same, and a dialog has its default button and obeys Escape.
+// size, no two letters of a form are the same, a dialog has its default button and obeys Escape, and the
+// wheel turns no value without the focus.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMetaProperty>
 #include <QTabWidget>
+#include <QWheelEvent>
 #include <set>
 
 #include "app/frmAbout.h"
@@ -83,6 +86,19 @@ void CheckCaptions(const QWidget& form) {
   }
 }
 
+void CheckWheel(QWidget& form) {
+  for (QWidget* control : form.findChildren<QWidget*>()) {
+    const QMetaProperty value = control->metaObject()->userProperty();
+    if (!value.isValid() || control->hasFocus()) continue;
+    const QVariant before = value.read(control);
+    for (const int turn : {-120, 120}) {
+      QWheelEvent wheel({5, 5}, control->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, {}, {}, {}, false);
+      QApplication::sendEvent(control, &wheel);
+      EXPECT_EQ(value.read(control), before) << control->objectName().toStdString();
+    }
+  }
+}
+
 void CheckForm(QWidget& form) {
   form.show();
   form.resize(form.minimumSizeHint().expandedTo(form.minimumSize()));
@@ -90,6 +106,7 @@ void CheckForm(QWidget& form) {
   CheckTabOrder(form);
   CheckNames(form);
   CheckCaptions(form);
+  CheckWheel(form);
 }
 
 void CheckDialog(QDialog& dialog) {

@@ -102,7 +102,10 @@ void frmEdit::ShowLines(const PreviewResult& result) {
   SelectRows(list, SelectedLines(job.Selection, result.labels.size()));
   if (result.current >= 0) list.setCurrentRow(result.current, QItemSelectionModel::NoUpdate);
   const QString comment = platform::ToQt(job.Comment);
-  if (ui_->txtComments->text() != comment) ui_->txtComments->setText(comment);
+  if (ui_->txtComments->text() != comment) {
+    ui_->txtComments->setText(comment);
+    ui_->txtComments->home(false);
+  }
   setWindowModified(job.Dirty);
 }
 

@@ -1,6 +1,7 @@
 // Message boxes and dialogs of the desktop for the core's questions.
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <map>
 
@@ -22,6 +23,8 @@ class QtPrompts : public platform::Prompts {
   using SidePanel = std::function<QWidget*(QFileDialog&)>;
 
   explicit QtPrompts(platform::Operations& operations) : operations_(operations) {}
+  // The station's folder (native): every file dialog leads there, and leaves out its scratch folder.
+  void SetStation(const QString& folder) { station_ = folder; }
   // Open dialogs with this default extension (lower case) get a panel at their side.
   void SetSidePanel(const std::string& extension, SidePanel panel) { panels_[extension] = std::move(panel); }
 
@@ -42,12 +45,14 @@ class QtPrompts : public platform::Prompts {
   // The window that a dialog stands over; null before there is one.
   static QWidget* Owner();
   int Exec(QDialog& dialog);
+  void Arrange(QFileDialog& dialog) const;
   void Prepare(QFileDialog& dialog, const platform::FileDialogRequest& request) const;
   void AddSidePanel(QFileDialog& dialog, const std::string& extension) const;
   template <typename Form>
   std::vector<std::string> Pick(const std::string& title, const std::vector<std::string>& entries);
 
   platform::Operations& operations_;
+  QString station_;
   std::map<std::string, SidePanel> panels_;
 };
 

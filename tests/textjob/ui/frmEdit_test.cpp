@@ -105,7 +105,7 @@ TEST_F(frmEditTest, TheSelectorAsksForAChangedJob) {
   station.prompts.answers = {Answer::Yes};
   selector.setFocus(Qt::TabFocusReason);
   EXPECT_EQ(station.prompts.Texts(), std::vector<std::string>{"Do you want to save this job?"});
-  EXPECT_EQ(station.folder.Read("ONE.TJB").substr(0, 20), "COMMENT,The first!\r\n");
+  EXPECT_EQ(station.folder.Read("ONE.TJB").substr(0, 20), "COMMENT,!The first\r\n");
   QTest::keyClick(&selector, Qt::Key_Down);
   EXPECT_EQ(station.job.Comment, "The second");
 }
@@ -118,7 +118,7 @@ TEST_F(frmEditTest, ClosingDropsTheJobWhateverTheAnswer) {
     station.prompts.answers = {answer};
     station.Entry("mnuFileClose").trigger();
     EXPECT_EQ(station.job.LineCount(), 0U);
-    EXPECT_EQ(station.folder.Read("TWO.TJB").find("secondx") != std::string::npos, answer == Answer::Yes);
+    EXPECT_EQ(station.folder.Read("TWO.TJB").find("xThe second") != std::string::npos, answer == Answer::Yes);
   }
 }
 

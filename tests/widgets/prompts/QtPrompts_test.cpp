@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFileDialog>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "platform/qt/Operations.h"
 #include "support/qt_WindowStation.h"
@@ -94,6 +96,8 @@ TEST_F(QtPromptsTest, InputAndLists) {
 TEST_F(QtPromptsTest, FileDialogsStartAndEndAsTold) {
   const TempFolder folder;
   folder.Write("A.JOB", "");
+  ASSERT_TRUE(QDir(QString::fromStdString(folder.Path())).mkdir("Temp"));
+  prompts_.SetStation(QString::fromStdString(folder.Path()));
   QWidget* panel = nullptr;
   prompts_.SetSidePanel("job", [&](QFileDialog& dialog) { return panel = new QWidget(&dialog); });
   WhenAsked([&](QWidget& widget) {
@@ -101,6 +105,10 @@ TEST_F(QtPromptsTest, FileDialogsStartAndEndAsTold) {
     EXPECT_EQ(dialog.windowTitle(), "Open File");
     EXPECT_EQ(dialog.directory().absolutePath(), QString::fromStdString(folder.Path()));
     EXPECT_TRUE(panel != nullptr && panel->isVisible());
+    EXPECT_EQ(dialog.sidebarUrls().value(0), QUrl::fromLocalFile(dialog.directory().absolutePath()));
+    const auto& list = Find<QTreeView>(dialog, "treeView");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) > 0; }));
+    EXPECT_EQ(list.model()->index(0, 0, list.rootIndex()).data(), "A.JOB") << "and no scratch folder";
     dialog.findChild<QLineEdit*>()->setText("A.JOB");
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
